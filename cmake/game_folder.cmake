@@ -1,0 +1,22 @@
+# The game folder that the build stages: both programs, ScenarioEditor/ with what lies there at the start,
+# and Scenarios/. The same tree is what an installation puts into a real game folder.
+set(TORVANE_GAME_DIR "${CMAKE_BINARY_DIR}/game")
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY_GAME "${TORVANE_GAME_DIR}")
+
+# The custom targets `game` (everything that the editor needs to run) and the staging of its data files.
+function(torvane_stage_game_folder)
+    file(MAKE_DIRECTORY "${TORVANE_GAME_DIR}/ScenarioEditor" "${TORVANE_GAME_DIR}/Scenarios")
+    set(tables "${TORVANE_GAME_DIR}/ScenarioEditor/ScenarioData.mdb")
+    add_custom_command(OUTPUT "${tables}"
+        COMMAND ${CMAKE_COMMAND} -E make_directory
+            "${TORVANE_GAME_DIR}/ScenarioEditor" "${TORVANE_GAME_DIR}/Scenarios"
+        COMMAND make_working_tables "${tables}"
+        DEPENDS make_working_tables
+        COMMENT "Staging ScenarioData.mdb"
+        VERBATIM)
+    add_custom_target(game ALL DEPENDS "${tables}")
+    add_dependencies(game TorvaneScenarioEditor TorvaneScenarioEditor-English)
+    install(TARGETS TorvaneScenarioEditor TorvaneScenarioEditor-English RUNTIME DESTINATION .)
+    install(FILES "${tables}" DESTINATION ScenarioEditor)
+    install(DIRECTORY DESTINATION Scenarios)
+endfunction()

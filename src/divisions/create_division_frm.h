@@ -1,0 +1,30 @@
+#pragma once
+
+#include "platform/form.h"
+
+#include <array>
+
+namespace torvane {
+
+class Editor;
+
+/// The division dialog. So far only the state that other windows share with it.
+class CreateDivisionFrm : public Form
+{
+    Q_OBJECT
+
+public:
+    explicit CreateDivisionFrm(Editor& editor);
+
+    QCheckBox* const chkCreate = hiddenControl<QCheckBox>("chkCreate");
+    QCheckBox* const chkReturnFlag = hiddenControl<QCheckBox>("chkReturnFlag");
+    QCheckBox* const ChknewBlueFlag = hiddenControl<QCheckBox>("ChknewBlueFlag");
+    QCheckBox* const ChknewRedFlag = hiddenControl<QCheckBox>("ChknewRedFlag");
+    QCheckBox* const chkReposition = hiddenControl<QCheckBox>("chkReposition");
+    /// "Force A (Blue)" or "Force B (Red)", in both languages: it is compared.
+    QLabel* const lblside = hiddenControl<QLabel>("lblside");
+    /// `chkDiv1` to `chkDiv12`: which division an edit is about.
+    std::array<QCheckBox*, 12> chkDiv{};
+};
+
+} // namespace torvane

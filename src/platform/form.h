@@ -1,0 +1,103 @@
+#pragma once
+
+#include "platform/form_stack.h"
+
+#include <QCheckBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QWidget>
+
+#include <type_traits>
+#include <utility>
+
+namespace torvane {
+
+/// The base of all windows. Loaded once, then shown and hidden. Every handler of a window is connected
+/// through `on`, so that it runs in a profile batch and no exception meets Qt's own code.
+class Form : public QWidget
+{
+    Q_OBJECT
+    /// False: takes no mouse, no key, no menu and no close, but looks as ever.
+    Q_PROPERTY(bool inputEnabled READ isInputEnabled WRITE setInputEnabled)
+
+public:
+    /// `designName` becomes the objectName. `forms` outlives the window.
+    Form(FormStack& forms, const QString& designName, Qt::WindowFlags flags);
+    ~Form() override;
+
+    /// Runs `onLoad`. Called once, right after construction.
+    void load();
+
+    /// Shows the window in front, above `opener` where one is given. Doesn't wait.
+    void showForm(Form* opener = nullptr);
+    void hideForm();
+
+    void setInputEnabled(bool enabled) { m_inputEnabled = enabled; }
+    bool isInputEnabled() const { return m_inputEnabled; }
+
+protected:
+    friend class FormStack;
+
+    /// Once, before the first showing.
+    virtual void onLoad() {}
+    /// Each time the window comes to the front within the program.
+    virtual void onActivate() {}
+    /// The close box. A dialog does what its Cancel does; where nothing is laid down, nothing happens.
+    virtual void onCloseBox() {}
+
+    /// Connects a handler to a signal. The handler takes the signal's arguments or none.
+    template <typename Sender, typename Signal, typename Handler>
+    void on(Sender* sender, Signal signal, Handler handler)
+    {
+        connect(sender, signal, this, [this, handler = std::move(handler)](auto... arguments) {
+            m_formStack.runHandler([&] {
+                if constexpr (std::is_invocable_v<Handler, decltype(arguments)...>) {
+                    handler(arguments...);
+                } else {
+                    handler();
+                }
+            });
+        });
+    }
+
+    /// Runs something that Qt calls through a virtual function rather than a signal, as `on` does.
+    void runHandler(const std::function<void()>& handler) { m_formStack.runHandler(handler); }
+
+    /// Makes one of the controls that are never shown and hold state between the windows.
+    template <typename Control>
+    Control* hiddenControl(const char* designName)
+    {
+        auto* control = new Control(this);
+        control->setObjectName(QLatin1StringView(designName));
+        control->setFocusPolicy(Qt::NoFocus);
+        control->hide();
+        return control;
+    }
+
+    FormStack& forms() const { return m_formStack; }
+
+    void closeEvent(QCloseEvent* event) override;
+    /// In a dialog Esc does what the close box does and Enter presses the default button.
+    void keyPressEvent(QKeyEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void watch(QObject* object);
+    void placeAbove(const Form& opener);
+
+    FormStack& m_formStack;
+    bool m_inputEnabled = true;
+    bool m_wasShown = false;
+};
+
+/// A check box holds 0 or 1.
+inline int valueOf(const QCheckBox* box)
+{
+    return box->isChecked() ? 1 : 0;
+}
+inline void setValue(QCheckBox* box, int value)
+{
+    box->setChecked(value != 0);
+}
+
+} // namespace torvane

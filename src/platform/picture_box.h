@@ -1,0 +1,58 @@
+#pragma once
+
+#include <QColor>
+#include <QImage>
+#include <QWidget>
+
+namespace torvane {
+
+/// A persistent drawing surface in pixels: what was drawn stays until `clear` or a change of size. The widget
+/// shows the image; exposing it draws nothing anew. Lines are one pixel wide and not smoothed.
+class PictureBox : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit PictureBox(QWidget* parent = nullptr);
+
+    /// Colour of the ground; takes effect on what is there, as `clear` does.
+    void setBackColor(const QColor& color);
+    QColor backColor() const { return m_backColor; }
+
+    /// Colour of lines, outlines and text from now on.
+    void setForeColor(const QColor& color) { m_foreColor = color; }
+    QColor foreColor() const { return m_foreColor; }
+
+    /// Where the next text goes: its top left corner, in pixels.
+    void setCurrent(QPoint position) { m_current = position; }
+    QPoint current() const { return m_current; }
+
+    /// Fills the picture with the ground colour; the current position becomes (0, 0).
+    void clear();
+    /// A line with both ends.
+    void line(QPoint from, QPoint to);
+    /// The outline of the box with these corners, or the box filled.
+    void box(QPoint from, QPoint to);
+    void filledBox(QPoint from, QPoint to);
+    /// A circle of whole-pixel radius; 0 is a point.
+    void circle(QPoint centre, int radius);
+    /// Writes a line of text at the current position, which moves to the start of the next line.
+    void print(const QString& text);
+
+    /// What the box shows.
+    const QImage& image() const { return m_image; }
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    void growImage(QSize size);
+
+    QImage m_image;
+    QColor m_backColor;
+    QColor m_foreColor{Qt::black};
+    QPoint m_current{0, 0};
+};
+
+} // namespace torvane

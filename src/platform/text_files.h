@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QByteArray>
+#include <QByteArrayView>
+#include <QString>
+
+namespace torvane {
+
+/// All bytes of a file. Throws RuntimeError (file not found, permission denied, path access error for a
+/// folder, device error) with the path in the text.
+QByteArray readWholeFile(const QString& path);
+
+/// Puts a file in place whole: written beside its name, synced, renamed over it, and the folder synced, so
+/// that a crash at any moment leaves the old bytes or the new ones. Throws RuntimeError and leaves the old
+/// file as it was.
+void writeWholeFile(const QString& path, QByteArrayView bytes);
+
+/// Deletes a file if it exists. Throws RuntimeError if it exists and can't be deleted. A folder of that name
+/// can't be deleted.
+void deleteFile(const QString& path);
+
+/// Throws RuntimeError, naming the folder, unless it exists and a file can be made and filled in it. Leaves
+/// nothing behind.
+void requireWritableFolder(const QString& folder);
+
+} // namespace torvane

@@ -1,0 +1,155 @@
+#include "platform/window_services.h"
+
+#include "platform/pointer.h"
+
+#include <QApplication>
+#include <QDesktopServices>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QInputDialog>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QUrl>
+
+namespace torvane {
+
+namespace {
+
+/// The words on the buttons of the platform's boxes.
+struct ButtonWords
+{
+    MessageBox::Answer answer;
+    const char* english;
+    const char* german;
+};
+
+constexpr ButtonWords buttonWords[] = {
+    {MessageBox::Answer::Ok, "&OK", "&OK"},
+    {MessageBox::Answer::Yes, "&Yes", "&Ja"},
+    {MessageBox::Answer::No, "&No", "&Nein"},
+};
+
+QString wordFor(MessageBox::Answer answer, Language language)
+{
+    for (const ButtonWords& words : buttonWords) {
+        if (words.answer == answer) {
+            return QString::fromUtf8(language == Language::German ? words.german : words.english);
+        }
+    }
+    return {};
+}
+
+QMessageBox::Icon iconOf(MessageBox::Icon icon)
+{
+    switch (icon) {
+    case MessageBox::Icon::Information:
+        return QMessageBox::Information;
+    case MessageBox::Icon::Question:
+        return QMessageBox::Question;
+    case MessageBox::Icon::Exclamation:
+        return QMessageBox::Warning;
+    case MessageBox::Icon::Critical:
+        return QMessageBox::Critical;
+    case MessageBox::Icon::None:
+        break;
+    }
+    return QMessageBox::NoIcon;
+}
+
+// The window in front, so that the box stands over it; boxes are asked for by handlers of that window.
+QWidget* frontWindow()
+{
+    return QApplication::activeWindow();
+}
+
+// "Scenario Files(*.scn)|*.scn" in the form that the window system's box takes.
+QString windowFilter(const QString& filter)
+{
+    const QStringList parts = filter.split(QLatin1Char('|'));
+    if (parts.size() != 2) {
+        return filter;
+    }
+    const QString description = parts[0].section(QLatin1Char('('), 0, 0).trimmed();
+    return QStringLiteral("%1 (%2)").arg(description, parts[1]);
+}
+
+} // namespace
+
+MessageBox::Answer WindowMessageBoxes::show(const MessageBox& box)
+{
+    using Answer = MessageBox::Answer;
+    QMessageBox window(iconOf(box.icon), box.title, box.text, QMessageBox::NoButton, frontWindow());
+    window.setObjectName(QStringLiteral("messageBox"));
+    window.setTextFormat(Qt::PlainText);
+    const auto add = [&](Answer answer, QMessageBox::ButtonRole role) {
+        QPushButton* button = window.addButton(wordFor(answer, m_language), role);
+        if (answer == box.defaultAnswer) {
+            window.setDefaultButton(button);
+        }
+        return button;
+    };
+    const QPushButton* yes = nullptr;
+    if (box.buttons == MessageBox::Buttons::YesNo) {
+        yes = add(Answer::Yes, QMessageBox::YesRole);
+        window.setEscapeButton(add(Answer::No, QMessageBox::NoRole));
+    } else {
+        window.setEscapeButton(add(Answer::Ok, QMessageBox::AcceptRole));
+    }
+    window.exec();
+    if (box.buttons == MessageBox::Buttons::Ok) {
+        return Answer::Ok;
+    }
+    return window.clickedButton() == yes ? Answer::Yes : Answer::No;
+}
+
+std::optional<QString> WindowInputBoxes::ask(const QString& title, const QString& prompt,
+                                             const QString& defaultText)
+{
+    QInputDialog window(frontWindow());
+    window.setWindowTitle(title);
+    window.setLabelText(prompt);
+    window.setTextValue(defaultText);
+    window.setOkButtonText(QStringLiteral("OK"));
+    window.setCancelButtonText(m_language == Language::German ? QStringLiteral("Abbrechen")
+                                                              : QStringLiteral("Cancel"));
+    if (window.exec() != QDialog::Accepted) {
+        return std::nullopt;
+    }
+    return window.textValue();
+}
+
+std::optional<QString> WindowFileBoxes::open(const FileRequest& request)
+{
+    const QString file = QFileDialog::getOpenFileName(frontWindow(), request.title, request.folder,
+                                                      windowFilter(request.filter));
+    return file.isEmpty() ? std::nullopt : std::optional(file);
+}
+
+std::optional<QString> WindowFileBoxes::save(const FileRequest& request)
+{
+    QFileDialog window(frontWindow(), request.title, request.folder, windowFilter(request.filter));
+    window.setAcceptMode(QFileDialog::AcceptSave);
+    window.setOption(QFileDialog::DontConfirmOverwrite);
+    window.setDefaultSuffix(request.defaultSuffix);
+    window.selectFile(request.fileName);
+    if (window.exec() != QDialog::Accepted || window.selectedFiles().isEmpty()) {
+        return std::nullopt;
+    }
+    return window.selectedFiles().constFirst();
+}
+
+void WindowHelpViewer::showContents(const QString& file)
+{
+    if (!QFileInfo(file).isFile()) {
+        const QString text = m_language == Language::German ? QStringLiteral("Die Hilfedatei fehlt:\n%1")
+                                                            : QStringLiteral("The help file is missing:\n%1");
+        m_boxes.show(
+            {.text = text.arg(file),
+             .title = m_language == Language::German ? QStringLiteral("Hilfe") : QStringLiteral("Help"),
+             .icon = MessageBox::Icon::Exclamation});
+        return;
+    }
+    QDesktopServices::openUrl(QUrl::fromLocalFile(file));
+}
+
+} // namespace torvane

@@ -1,0 +1,51 @@
+#pragma once
+
+#include "platform/language.h"
+#include "platform/services.h"
+
+class QWidget;
+
+namespace torvane {
+
+/// Message boxes of the window system, with the buttons' words in the program's language.
+class WindowMessageBoxes : public MessageBoxes
+{
+public:
+    explicit WindowMessageBoxes(Language language) : m_language(language) {}
+    MessageBox::Answer show(const MessageBox& box) override;
+
+private:
+    Language m_language;
+};
+
+class WindowInputBoxes : public InputBoxes
+{
+public:
+    explicit WindowInputBoxes(Language language) : m_language(language) {}
+    std::optional<QString> ask(const QString& title, const QString& prompt,
+                               const QString& defaultText) override;
+
+private:
+    Language m_language;
+};
+
+class WindowFileBoxes : public FileBoxes
+{
+public:
+    std::optional<QString> open(const FileRequest& request) override;
+    std::optional<QString> save(const FileRequest& request) override;
+};
+
+/// Shows a help file; a missing one gives a box that names it.
+class WindowHelpViewer : public HelpViewer
+{
+public:
+    WindowHelpViewer(Language language, MessageBoxes& boxes) : m_language(language), m_boxes(boxes) {}
+    void showContents(const QString& file) override;
+
+private:
+    Language m_language;
+    MessageBoxes& m_boxes;
+};
+
+} // namespace torvane

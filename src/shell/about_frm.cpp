@@ -1,0 +1,82 @@
+#include "shell/about_frm.h"
+
+#include "shell/captions.h"
+#include "shell/editor.h"
+#include "shell/main_frm.h"
+#include "ui_about_frm.h"
+
+#include <QKeyEvent>
+#include <QLocale>
+
+namespace torvane {
+
+namespace {
+
+constexpr int leftMargin = 12;
+
+} // namespace
+
+AboutFrm::AboutFrm(Editor& editor)
+    : Form(editor.forms(), QStringLiteral("AboutFrm"), Qt::Dialog),
+      m_editor(editor),
+      m_ui(std::make_unique<Ui::AboutFrm>())
+{
+    m_ui->setupUi(this);
+    m_ui->picIcon->setPixmap(QIcon(QStringLiteral(":/icons/editor.svg")).pixmap(64));
+    m_ui->PicAbout->setBackColor(palette().color(QPalette::Window));
+    m_ui->PicAbout->setForeColor(palette().color(QPalette::WindowText));
+    on(m_ui->cmdOK, &QPushButton::clicked, [this] { close(); });
+}
+
+AboutFrm::~AboutFrm() = default;
+
+void AboutFrm::onLoad()
+{
+    if (valueOf(m_editor.mainFrm().chkGermanVersion) == 1) {
+        setGermanCaptions();
+    } else {
+        setEnglishCaptions();
+    }
+    const QFontMetrics metrics(m_ui->PicAbout->font());
+    int width = 0;
+    for (const QString& line : std::as_const(m_lines)) {
+        width = std::max(width, metrics.horizontalAdvance(line));
+    }
+    m_ui->PicAbout->setMinimumSize(width + 2 * leftMargin,
+                                   metrics.height() * static_cast<int>(m_lines.size()));
+}
+
+void AboutFrm::setEnglishCaptions()
+{
+    setWindowTitle(mainText(MainText::AboutTitle, Language::English));
+    m_lines = aboutLines(Language::English, QLocale::system().toString(versionDate(), QLocale::ShortFormat));
+}
+
+void AboutFrm::setGermanCaptions()
+{
+    setWindowTitle(mainText(MainText::AboutTitle, Language::German));
+    m_lines = aboutLines(Language::German, QLocale::system().toString(versionDate(), QLocale::ShortFormat));
+}
+
+void AboutFrm::onActivate()
+{
+    PictureBox* picture = m_ui->PicAbout;
+    picture->clear();
+    for (const QString& line : std::as_const(m_lines)) {
+        picture->setCurrent(QPoint(leftMargin, picture->current().y()));
+        picture->print(line);
+    }
+}
+
+void AboutFrm::onCloseBox()
+{
+    close();
+}
+
+void AboutFrm::close()
+{
+    m_editor.mainFrm().setInputEnabled(true);
+    hideForm();
+}
+
+} // namespace torvane

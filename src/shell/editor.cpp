@@ -1,0 +1,103 @@
+#include "shell/editor.h"
+
+#include "divisions/create_division_frm.h"
+#include "overview/overview_frm.h"
+#include "shell/about_frm.h"
+#include "shell/captions.h"
+#include "shell/main_frm.h"
+#include "shell/splash_frm.h"
+
+// Resources of a static library are taken into the program by this call; it stands outside every namespace.
+static void registerIcons()
+{
+    Q_INIT_RESOURCE(icons);
+}
+
+namespace torvane {
+
+Editor::Editor(const QString& programDir, BuildOptions options, const Services& services)
+    : m_programDir(programDir),
+      m_options(options),
+      m_services(services),
+      m_forms(m_profiles, [this](const RuntimeError& error) { report(error); })
+{
+    registerIcons();
+    m_profiles.onWriteFailure([this](const QString& path, const QString& reason) {
+        // Shown after the event that could not save: the box runs events of its own.
+        QMetaObject::invokeMethod(
+            &m_forms,
+            [this, path, reason] {
+                m_services.messageBoxes.show(
+                    {.text = mainText(MainText::UnsavedFile, language()).arg(path, reason),
+                     .title = mainText(MainText::RuntimeErrorTitle, language()),
+                     .icon = MessageBox::Icon::Exclamation});
+            },
+            Qt::QueuedConnection);
+    });
+}
+
+Editor::~Editor() = default;
+
+void Editor::start()
+{
+    mainFrm();
+}
+
+void Editor::end()
+{
+    m_ended = true;
+    if (m_endProgram) {
+        m_endProgram();
+    }
+}
+
+void Editor::setBasePath(const QString& basePath)
+{
+    m_paths = pathsBelow(basePath);
+    m_workingProfile.emplace(m_profiles, m_paths.workDir);
+    m_scratchFiles.emplace(m_profiles, m_paths.workDir);
+}
+
+void Editor::report(const RuntimeError& error)
+{
+    m_services.messageBoxes.show({.text = error.text(),
+                                  .title = mainText(MainText::RuntimeErrorTitle, language()),
+                                  .icon = MessageBox::Icon::Critical});
+}
+
+template <typename Window>
+Window& Editor::loaded(std::unique_ptr<Window>& window)
+{
+    if (!window) {
+        window = std::make_unique<Window>(*this);
+        window->load();
+    }
+    return *window;
+}
+
+MainFrm& Editor::mainFrm()
+{
+    return loaded(m_mainFrm);
+}
+
+frmSplash& Editor::splashFrm()
+{
+    return loaded(m_splashFrm);
+}
+
+AboutFrm& Editor::aboutFrm()
+{
+    return loaded(m_aboutFrm);
+}
+
+OverviewFrm& Editor::overviewFrm()
+{
+    return loaded(m_overviewFrm);
+}
+
+CreateDivisionFrm& Editor::createDivisionFrm()
+{
+    return loaded(m_createDivisionFrm);
+}
+
+} // namespace torvane

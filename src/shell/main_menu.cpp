@@ -1,0 +1,132 @@
+#include "shell/main_menu.h"
+
+#include "platform/runtime_error.h"
+#include "shell/captions.h"
+#include "shell/commands.h"
+
+#include <QAction>
+#include <QKeySequence>
+#include <QMenu>
+#include <QMenuBar>
+
+namespace torvane {
+
+namespace {
+
+constexpr int hiddenDivisions = 4; // the Edit Ship divisions that each plot hides
+constexpr bool sides[] = {true, false};
+
+QAction* addEntry(QWidget* parent, const MenuRow& row)
+{
+    if (row.kind == MenuRow::Kind::Menu) {
+        auto* menu = new QMenu(row.designCaption, parent);
+        menu->setObjectName(row.name);
+        parent->addAction(menu->menuAction());
+        return menu->menuAction();
+    }
+    auto* action = new QAction(row.designCaption, parent);
+    parent->addAction(action);
+    if (row.kind == MenuRow::Kind::Separator) {
+        action->setText(QString());
+        action->setSeparator(true);
+    }
+    return action;
+}
+
+} // namespace
+
+MainMenu::MainMenu(QMenuBar* bar) : QObject(bar), m_bar(bar)
+{
+    for (const MenuRow& row : menuRows()) {
+        QWidget* parent =
+            row.parent.isEmpty() ? static_cast<QWidget*>(m_bar) : action(row.parent)->menu<QMenu*>();
+        QAction* entry = addEntry(parent, row);
+        entry->setObjectName(row.name);
+        entry->setEnabled(row.enabled);
+        entry->setVisible(row.visible);
+        if (row.checkable) {
+            entry->setCheckable(true);
+            entry->setChecked(true);
+        }
+        if (!row.shortcut.isEmpty()) {
+            entry->setShortcut(QKeySequence::fromString(row.shortcut, QKeySequence::PortableText));
+        }
+        m_actions.insert(row.name, entry);
+    }
+}
+
+void MainMenu::setCaptions(Language language)
+{
+    m_divisionWord = mainText(MainText::Division, language);
+    for (const MenuRow& row : menuRows()) {
+        const QString& caption = language == Language::German ? row.germanCaption : row.englishCaption;
+        if (!caption.isNull()) {
+            action(row.name)->setText(caption);
+        }
+    }
+}
+
+QAction* MainMenu::action(const QString& name) const
+{
+    QAction* found = m_actions.value(name);
+    if (!found) {
+        throw RuntimeError(RuntimeError::SubscriptOutOfRange, QStringLiteral("No menu entry %1").arg(name));
+    }
+    return found;
+}
+
+void MainMenu::setEnabled(const QString& name, bool enabled) const
+{
+    action(name)->setEnabled(enabled);
+}
+
+void MainMenu::setVisible(const QString& name, bool visible) const
+{
+    action(name)->setVisible(visible);
+}
+
+void MainMenu::resetForceMenus()
+{
+    for (const bool forceA : sides) {
+        for (int division = 1; division <= divisionsPerSide; ++division) {
+            setVisible(editEntryName(forceA, division), division == 1);
+            setVisible(QLatin1StringView(repositionRow(forceA, division).entry), division == 1);
+        }
+    }
+    for (const char* menu : {"editForceA", "editForceB", "mnuRepoForceA", "mnuRepoForceB"}) {
+        setEnabled(QLatin1StringView(menu), false);
+    }
+    m_blueDivisionCount = 0;
+    m_redDivisionCount = 0;
+}
+
+void MainMenu::addRepositionMenuEntry(const QString& /*name*/, const QString& side)
+{
+    const bool forceA = side == QLatin1StringView("Blue");
+    int& count = forceA ? m_blueDivisionCount : m_redDivisionCount;
+    ++count;
+    if (count > divisionsPerSide) {
+        return;
+    }
+    QAction* entry = action(QLatin1StringView(repositionRow(forceA, count).entry));
+    entry->setText(QStringLiteral("%1 %2").arg(m_divisionWord).arg(count));
+    entry->setVisible(true);
+    if (!forceA && count == 1) {
+        setVisible(QStringLiteral("mnuSeperator3"), true);
+    }
+}
+
+void MainMenu::hideEditShipMenus()
+{
+    for (const bool forceA : sides) {
+        setEnabled(forceA ? QStringLiteral("mnuEditShipForceA") : QStringLiteral("mnuEditShipForceB"), false);
+        for (int division = 1; division <= hiddenDivisions; ++division) {
+            setVisible(shipDivisionName(forceA, division), false);
+            for (int ship = 2; ship <= shipEntries(division); ++ship) {
+                setVisible(shipEntryName(forceA, division, ship), false);
+            }
+        }
+    }
+}
+
+} // namespace torvane

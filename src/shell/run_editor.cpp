@@ -1,0 +1,43 @@
+#include "shell/run_editor.h"
+
+#include "platform/system_services.h"
+#include "platform/window_services.h"
+#include "shell/captions.h"
+#include "shell/editor.h"
+
+#include <QApplication>
+#include <QIcon>
+
+namespace torvane {
+
+int runEditor(int& argc, char** argv, Language language)
+{
+    QApplication application(argc, argv);
+    QApplication::setStyle(QStringLiteral("fusion"));
+    QApplication::setQuitOnLastWindowClosed(false);
+
+    WindowMessageBoxes messageBoxes(language);
+    WindowInputBoxes inputBoxes(language);
+    WindowFileBoxes fileBoxes;
+    WindowHelpViewer helpViewer(language, messageBoxes);
+    SystemProgramLauncher launcher;
+    SystemClock clock;
+    SystemRandomSource random;
+
+    const QString programDir = QCoreApplication::applicationDirPath();
+    const FolderLock lock(pathsBelow(programDir).workDir);
+    if (lock.state() == FolderLock::State::InUse) {
+        messageBoxes.show({.text = mainText(MainText::FolderInUse, language).arg(programDir),
+                           .title = mainText(MainText::Title, language),
+                           .icon = MessageBox::Icon::Exclamation});
+        return 1;
+    }
+    Editor editor(programDir, {.language = language},
+                  {messageBoxes, inputBoxes, fileBoxes, helpViewer, launcher, clock, random});
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/editor.svg")));
+    editor.onEnd([] { QCoreApplication::exit(0); });
+    editor.start();
+    return QApplication::exec();
+}
+
+} // namespace torvane

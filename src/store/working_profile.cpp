@@ -1,0 +1,118 @@
+#include "store/working_profile.h"
+
+#include "platform/number_text.h"
+#include "store/profile_keys.h"
+
+#include <QDir>
+
+#include <algorithm>
+#include <iterator>
+
+namespace torvane {
+
+namespace {
+
+constexpr QStringView versionSection{u"VERSION"};
+constexpr QStringView versionKey{u"VERSIONNUMBER "};
+constexpr QStringView version{u"64"};
+constexpr QStringView scenarioDataSection{u"SCENARIODATA"};
+constexpr QStringView scenarioInfoSection{u"SCENARIOINFO"};
+constexpr QStringView divisionCountKey{u"DIVISIONCNT"};
+constexpr QStringView zero{u"0"};
+/// `zeroProfile` stops here; the other walks go on to `shipSections`. Kept.
+constexpr int zeroedShipSections = 10;
+
+/// Without the blanks at both ends; tabs stay.
+QString withoutBlanks(const QString& text)
+{
+    const auto isBlank = [](QChar c) { return c == QLatin1Char(' '); };
+    const auto begin = std::find_if_not(text.begin(), text.end(), isBlank);
+    const auto end = std::find_if_not(text.rbegin(), std::make_reverse_iterator(begin), isBlank).base();
+    return QString(begin, std::distance(begin, end));
+}
+
+/// The kept yards of a position stand before the position itself.
+void zeroShip(WorkingProfile& profile, const QString& section)
+{
+    for (const QStringView key : shipKeys) {
+        if (key == u"XPOSITION" || key == u"ZPOSITION") {
+            profile.write(section, QStringLiteral("YARDS") + key.toString(), zero);
+        }
+        profile.write(section, key, zero);
+    }
+}
+
+void zeroDivision(WorkingProfile& profile, int division)
+{
+    for (const QStringView key : divisionKeys) {
+        profile.write(divisionSection(division), key, zero);
+    }
+    for (int ship = 0; ship < zeroedShipSections; ++ship) {
+        const QString section = shipSection(division, ship);
+        const QString name = profile.GetIniKey(section, u"NAME");
+        if (name != invalidValue && name != noShip) {
+            zeroShip(profile, section);
+        }
+    }
+}
+
+} // namespace
+
+QString divisionSection(int division)
+{
+    return QStringLiteral("DIVISION%1").arg(division);
+}
+
+QString shipSection(int division, int ship)
+{
+    return QStringLiteral("DIVISION%1SHIP%2").arg(division).arg(ship);
+}
+
+QString GetIniKey(ProfileStore& store, const QString& file, QStringView section, QStringView key)
+{
+    const QString text = store.read(file, section, key);
+    return text.isEmpty() ? QString(invalidValue) : withoutBlanks(text);
+}
+
+WorkingProfile::WorkingProfile(ProfileStore& store, const QString& workDir)
+    : m_store(store), m_path(QDir(workDir).filePath(QStringLiteral("iniTemp.bmm")))
+{
+}
+
+QString WorkingProfile::GetIniKey(QStringView section, QStringView key) const
+{
+    return torvane::GetIniKey(m_store, m_path, section, key);
+}
+
+bool WorkingProfile::write(QStringView section, QStringView key, QStringView value)
+{
+    return m_store.write(m_path, section, key, value);
+}
+
+bool WorkingProfile::createNewIniTempFile()
+{
+    m_store.remove(m_path);
+    return write(versionSection, versionKey, version);
+}
+
+void WorkingProfile::zeroProfile()
+{
+    const ProfileStore::Batch batch(m_store);
+    write(versionSection, versionKey, version);
+    for (const QStringView key : scenarioDataKeys) {
+        write(scenarioDataSection, key, zero);
+    }
+    write(scenarioInfoSection, divisionCountKey, zero);
+    for (int division = 0; division < divisionSections; ++division) {
+        if (GetIniKey(divisionSection(division), u"DIVISIONNAME") != invalidValue) {
+            zeroDivision(*this, division);
+        }
+    }
+}
+
+int WorkingProfile::divisionCount() const
+{
+    return toInt16(numberValue(GetIniKey(scenarioInfoSection, divisionCountKey)));
+}
+
+} // namespace torvane

@@ -1,0 +1,53 @@
+#pragma once
+
+#include "platform/profile_store.h"
+
+#include <QString>
+#include <QStringView>
+
+namespace torvane {
+
+/// The one sentinel of all profile reads: the key is missing or its value is empty.
+inline constexpr QLatin1StringView invalidValue{"INVALID"};
+/// Stands in `NAME` of a ship place that has been emptied.
+inline constexpr QLatin1StringView noShip{"NO SHIP"};
+/// Walks over divisions try n from 0 below this, walks over ships m from 0 below that.
+inline constexpr int divisionSections = 12;
+inline constexpr int shipSections = 14;
+
+/// Section names: "DIVISION3", "DIVISION3SHIP0". Numbers count from 0.
+QString divisionSection(int division);
+QString shipSection(int division, int ship);
+
+/// One key of any profile file, trimmed of blanks at both ends, or "INVALID" if it is missing or empty.
+QString GetIniKey(ProfileStore& store, const QString& file, QStringView section, QStringView key);
+
+/// The scenario under edit: the profile file `iniTemp.bmm` in the work folder.
+class WorkingProfile
+{
+public:
+    WorkingProfile(ProfileStore& store, const QString& workDir);
+
+    const QString& path() const { return m_path; }
+
+    /// See the free function.
+    QString GetIniKey(QStringView section, QStringView key) const;
+
+    /// Writes one key; the platform reports a failure.
+    bool write(QStringView section, QStringView key, QStringView value);
+
+    /// Deletes the profile and writes the version section. False if that write failed.
+    bool createNewIniTempFile();
+
+    /// Writes "0" over every key that the profile may hold and the version over its own.
+    void zeroProfile();
+
+    /// Divisions of both sides together, "INVALID" counting as 0. Throws Overflow beyond 16 bits.
+    int divisionCount() const;
+
+private:
+    ProfileStore& m_store;
+    QString m_path;
+};
+
+} // namespace torvane

@@ -1,0 +1,12 @@
+#include <QApplication>
+
+#include <gmock/gmock.h>
+
+int main(int argc, char** argv)
+{
+    QApplication application(argc, argv);
+    QApplication::setStyle(QStringLiteral("fusion"));
+    QApplication::setQuitOnLastWindowClosed(false);
+    testing::InitGoogleMock(&argc, argv);
+    return RUN_ALL_TESTS();
+}

@@ -1,0 +1,25 @@
+# Registers the tests of one program with CTest, one CTest entry a test.
+#   CORE: links torvane_core alone, runs without a display.
+#   WINDOWS: links torvane_editor, runs on the offscreen platform; SCALE n makes its screen n times as dense.
+function(torvane_add_tests name)
+    cmake_parse_arguments(arg "CORE;WINDOWS" "SCALE" "SOURCES" ${ARGN})
+    add_executable(${name} ${arg_SOURCES})
+    target_link_libraries(${name} PRIVATE GTest::gmock torvane_warnings)
+    target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR}/tests)
+    set(environment "QT_QPA_PLATFORM=offscreen")
+    set(prefix "")
+    if(arg_WINDOWS)
+        target_link_libraries(${name} PRIVATE torvane_window_test_support torvane_editor Qt6::Test)
+    else()
+        target_link_libraries(${name} PRIVATE torvane_test_support torvane_core)
+    endif()
+    if(arg_SCALE)
+        list(APPEND environment "QT_SCALE_FACTOR=${arg_SCALE}")
+        set(prefix "Scale${arg_SCALE}.")
+    endif()
+    gtest_discover_tests(${name}
+        TEST_PREFIX "${prefix}"
+        DISCOVERY_MODE PRE_TEST
+        DISCOVERY_TIMEOUT 60
+        PROPERTIES TIMEOUT 120 ENVIRONMENT "${environment}")
+endfunction()
