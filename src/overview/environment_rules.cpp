@@ -22,8 +22,9 @@ QString percent(int value)
 /// Whole knots. Of a wind outside the bands it only matters on which side it lies.
 int windOf(QStringView text)
 {
-    if (text.isEmpty())
+    if (text.isEmpty()) {
         return lowestWind;
+    }
     return static_cast<int>(std::clamp(integerPart(text), lowestWind - 1.0, highestWind + 1.0));
 }
 
@@ -45,21 +46,25 @@ constexpr HourRange sunsetHours{13, 23};
 
 ClockTime steppedSunHour(ClockTime time, HourRange range, ClockStep step)
 {
-    if (step == ClockStep::Click)
+    if (step == ClockStep::Click) {
         return {time.hour + 1 > range.last ? range.first : time.hour + 1, time.minute};
+    }
     const int hour = time.hour + (step == ClockStep::PlusKey ? 1 : -1);
-    if (step == ClockStep::MinusKey)
+    if (step == ClockStep::MinusKey) {
         return hour < range.first ? ClockTime{range.last, 0} : ClockTime{hour, time.minute};
-    if (hour > range.last)
+    }
+    if (hour > range.last) {
         return {range.first, 0};
+    }
     return {hour, hour == range.last ? 0 : time.minute};
 }
 
 ClockTime steppedSunMinuteByKey(ClockTime time, HourRange range, ClockStep step)
 {
     const int minute = time.minute + (step == ClockStep::PlusKey ? 1 : -1);
-    if (time.hour == range.last || minute >= 60)
+    if (time.hour == range.last || minute >= 60) {
         return {time.hour, 0};
+    }
     return {time.hour, minute < 0 ? 59 : minute};
 }
 
@@ -72,7 +77,7 @@ ClockTime clickedSunriseMinute(ClockTime time)
 ClockTime clickedSunsetMinute(ClockTime time)
 {
     const int minute = time.minute + 1;
-    const int hour = time.hour >= sunsetHours.last && minute >= 1 ? sunsetHours.first : time.hour;
+    const int hour = time.hour >= sunsetHours.last ? sunsetHours.first : time.hour;
     return {hour, minute >= 60 ? 0 : minute};
 }
 
@@ -97,46 +102,53 @@ std::optional<int> seaStateOfWind(double knots)
 int windForSeaState(int seaState, QStringView windText, const std::function<double()>& draw)
 {
     const auto band = std::ranges::find(seaStateBands, seaState, &SeaStateBand::seaState);
-    if (band == seaStateBands.end())
+    if (band == seaStateBands.end()) {
         throw RuntimeError(RuntimeError::InvalidProcedureCall,
                            QStringLiteral("There is no sea state %1.").arg(seaState));
+    }
     const int wind = windOf(windText);
-    if (band->holds(wind))
+    if (band->holds(wind)) {
         return wind;
+    }
     return static_cast<int>(floorOf(draw() * band->width())) + band->lowestWind;
 }
 
 WindCheck checkWindSpeed(QStringView text)
 {
-    if (text.isEmpty())
+    if (text.isEmpty()) {
         return {{true, QString()}, std::nullopt};
+    }
     const double wind = integerPart(text);
-    if (wind < lowestWind || wind > highestWind)
+    if (wind < lowestWind || wind > highestWind) {
         return {{false, QString::number(lowestWind)}, seaStateOfWind(lowestWind)};
+    }
     return {{true, text.toString()}, seaStateOfWind(wind)};
 }
 
 QString steppedWindSpeed(QStringView text, int step)
 {
     const int wind = windOf(text) + step;
-    if (wind > highestWind)
+    if (wind > highestWind) {
         return QString::number(lowestWind);
+    }
     return QString::number(wind < lowestWind ? highestWind : wind);
 }
 
 TypedCheck checkWindDirection(QStringView text)
 {
     const double direction = integerPart(text);
-    if (direction < 0 || direction > highestDirection)
+    if (direction < 0 || direction > highestDirection) {
         return {false, QStringLiteral("0")};
+    }
     return {true, textOf(direction)};
 }
 
 QString steppedWindDirection(QStringView text, int step)
 {
     const int direction = integerValue(text) + step;
-    if (direction > highestDirection)
+    if (direction > highestDirection) {
         return QStringLiteral("0");
+    }
     return QString::number(direction < 0 ? highestDirection : direction);
 }
 
@@ -145,16 +157,18 @@ QString steppedVisibility(QStringView text, int step, bool day)
     const int lowest = day ? dayAndNightMeet : 0;
     const int highest = day ? clearSight : dayAndNightMeet;
     const int visibility = integerValue(text);
-    if (step > 0)
+    if (step > 0) {
         return percent(visibility >= highest ? lowest : visibility + step);
+    }
     return percent(visibility <= lowest ? highest : visibility + step);
 }
 
 QString steppedRadar(QStringView text, int step)
 {
     const int radar = integerValue(text);
-    if (step > 0)
+    if (step > 0) {
         return percent(radar >= clearSight ? 0 : radar + step);
+    }
     return percent(radar <= 0 ? clearSight : radar + step);
 }
 
@@ -198,18 +212,21 @@ ClockTime steppedClock(ClockTime time, ClockButton button, ClockStep step)
 
 bool isDay(ClockTime start, ClockTime sunrise, ClockTime sunset)
 {
-    if (start.hour < 12)
+    if (start.hour < 12) {
         return start.hour > sunrise.hour || (start.hour == sunrise.hour && start.minute >= sunrise.minute);
+    }
     return start.hour < sunset.hour || (start.hour == sunset.hour && start.minute < sunset.minute);
 }
 
 GameLength steppedGameLengthHour(const GameLength& length)
 {
     const int hour = lengthHour(length) + 1;
-    if (hour == 3 && length.minutes == u"45")
+    if (hour == 3 && length.minutes == u"45") {
         return {QStringLiteral("3"), QStringLiteral("30")};
-    if (hour < 4)
+    }
+    if (hour < 4) {
         return {QString::number(hour), length.minutes};
+    }
     const bool tooShort = length.minutes == u"00" || length.minutes == u"15";
     return {QStringLiteral("0"), tooShort ? QStringLiteral("30") : length.minutes};
 }
@@ -218,12 +235,15 @@ GameLength steppedGameLengthMinutes(const GameLength& length)
 {
     const int hour = lengthHour(length);
     int minutes = std::max(integerValue(length.minutes), 0) + 15;
-    if (minutes > 45)
+    if (minutes > 45) {
         minutes = 0;
-    if (hour == 0 && minutes < 30)
+    }
+    if (hour == 0 && minutes < 30) {
         minutes = 30;
-    if (hour == 3 && minutes == 45)
+    }
+    if (hour == 3 && minutes == 45) {
         minutes = 0;
+    }
     return {QString::number(hour), twoDigits(minutes)};
 }
 

@@ -89,8 +89,9 @@ MissionBrief missionBrief(const Mission& mission, Language language, bool swappe
 {
     MissionBrief brief{mission.firstRole.name.in(language), mission.secondRole.name.in(language),
                        mission.firstRole.objective.in(language), mission.secondRole.objective.in(language)};
-    if (swapped)
+    if (swapped) {
         std::swap(brief.objectiveA, brief.objectiveB);
+    }
     return brief;
 }
 

@@ -1,43 +1,390 @@
 #include "overview/overview_frm.h"
 
 #include "divisions/create_division_frm.h"
+#include "overview/control_tips.h"
+#include "overview/enviro_frm.h"
+#include "overview/overview_rules.h"
+#include "overview/overview_tips.h"
+#include "platform/list_combo.h"
+#include "platform/mnemonics.h"
+#include "platform/step_button.h"
 #include "shell/editor.h"
 #include "shell/main_frm.h"
 #include "shell/main_menu.h"
+#include "ui_overview_frm.h"
 
 #include <QAction>
-#include <QPushButton>
-#include <QVBoxLayout>
+#include <QKeyEvent>
+
+#include <array>
 
 namespace torvane {
 
+namespace {
+
+// The forces' own colours, dark enough for white letters.
+const QColor forceABlue(36, 74, 150);
+const QColor forceBRed(164, 38, 38);
+
+} // namespace
+
 OverviewFrm::OverviewFrm(Editor& editor)
-    : Form(editor.forms(), QStringLiteral("OverviewFrm"), Qt::Dialog), m_editor(editor)
+    : Form(editor.forms(), QStringLiteral("OverviewFrm"), Qt::Dialog),
+      m_editor(editor),
+      m_ui(std::make_unique<Ui::OverviewFrm>()),
+      m_victoryMods(hiddenControl<ListCombo>("ComboVPMods")),
+      m_blueCondition(hiddenControl<ListCombo>("ComboBlueVC")),
+      m_redCondition(hiddenControl<ListCombo>("ComboRedVC"))
 {
-    setWindowTitle(editor.german() ? QStringLiteral("Torvane - Scenario Editor")
-                                   : QStringLiteral("Torvane - Overview of the Scenario"));
-    auto* layout = new QVBoxLayout(this);
-    auto* ok = new QPushButton(editor.german() ? QStringLiteral("OK") : QStringLiteral("&Save"), this);
-    ok->setObjectName(QStringLiteral("cmdOK"));
-    layout->addWidget(ok);
-    on(ok, &QPushButton::clicked, [this] { save(); });
+    m_ui->setupUi(this);
+    layout()->setSizeConstraint(QLayout::SetFixedSize);
+    colorForces();
+    connectSteppers();
+    connectTyping();
+    on(m_ui->cmbMission, &ListCombo::activated, [this] {
+        setForces(false);
+        showMission(false);
+    });
+    on(m_ui->cmdEnviroCntrl, &QPushButton::clicked, [this] { openEnvironment(); });
+    on(m_ui->cmdOK, &QPushButton::clicked, [this] { save(); });
+    on(m_ui->CmdCancel, &QPushButton::clicked, [this] { leave(); });
+}
+
+OverviewFrm::~OverviewFrm() = default;
+
+void OverviewFrm::onLoad()
+{
+    if (valueOf(m_editor.mainFrm().chkGermanVersion) == 1) {
+        setGermanCaptions();
+    } else {
+        setEnglishCaptions();
+    }
+    fillLists();
+    show(scenarioDefaults(m_editor.language()).overview);
+    showMission(false);
+}
+
+void OverviewFrm::setEnglishCaptions()
+{
+    applyCaptions(Language::English);
+}
+
+void OverviewFrm::setGermanCaptions()
+{
+    applyCaptions(Language::German);
+}
+
+void OverviewFrm::applyCaptions(Language language)
+{
+    setWindowTitle(captionOf(overviewCaptions, objectName(), language));
+    for (const CaptionRow& row : overviewCaptions) {
+        if (auto* label = findChild<QLabel*>(row.control)) {
+            label->setText(row.caption.in(language));
+        } else if (auto* button = findChild<QPushButton*>(row.control)) {
+            button->setText(row.caption.in(language));
+        }
+    }
+    applyControlTips(*this, overviewTips, language);
+    applyMnemonics();
+}
+
+void OverviewFrm::applyMnemonics()
+{
+    QString taken;
+    for (QPushButton* button : {m_ui->cmdOK, m_ui->CmdCancel, m_ui->cmdEnviroCntrl}) {
+        taken.append(mnemonicOf(button->text()));
+    }
+    for (QLabel* label : {m_ui->Label1, m_ui->Label2, m_ui->Label6, m_ui->lblMovie, m_ui->Label22,
+                          m_ui->Label5, m_ui->Label26, m_ui->Label24, m_ui->Label19, m_ui->Label25}) {
+        label->setText(withMnemonic(label->text(), taken));
+    }
+}
+
+void OverviewFrm::fillLists()
+{
+    for (ListCombo* list : findChildren<ListCombo*>()) {
+        list->addItems(listContents(list->objectName(), m_editor.language()));
+    }
+}
+
+void OverviewFrm::colorForces()
+{
+    const std::array grounds{std::pair{m_ui->lblMissionA, forceABlue},
+                             std::pair{m_ui->lblMissionB, forceBRed}};
+    for (const auto& [label, color] : grounds) {
+        QPalette colors = label->palette();
+        colors.setColor(QPalette::Window, color);
+        colors.setColor(QPalette::WindowText, Qt::white);
+        label->setPalette(colors);
+    }
+}
+
+void OverviewFrm::connectSteppers()
+{
+    const auto stepper = [this](StepButton* button, QLineEdit* box, auto rule) {
+        on(button, &StepButton::clicked, [box, rule] { box->setText(rule(box->text())); });
+    };
+    const auto up = [](const QString& text) { return steppedHeading(text, 1); };
+    const auto down = [](const QString& text) { return steppedHeading(text, -1); };
+    stepper(m_ui->Command9, m_ui->txtDisengageA, down);
+    stepper(m_ui->Command10, m_ui->txtDisengageA, up);
+    stepper(m_ui->Command13, m_ui->txtDisengageB, down);
+    // Of the four this one alone keeps a fraction that was typed. Kept.
+    stepper(m_ui->Command14, m_ui->txtDisengageB,
+            [](const QString& text) { return steppedHeadingInSinglePrecision(text); });
+
+    const struct
+    {
+        StepButton* button;
+        QLineEdit* box;
+        float change;
+    } modifiers[] = {
+        {m_ui->Command17, m_ui->txtVPmodsA, -1.00F}, {m_ui->Command18, m_ui->txtVPmodsA, 1.00F},
+        {m_ui->Command19, m_ui->txtVPmodsA, -0.01F}, {m_ui->Command20, m_ui->txtVPmodsA, 0.01F},
+        {m_ui->Command21, m_ui->txtVPmodsB, -1.00F}, {m_ui->Command22, m_ui->txtVPmodsB, 1.00F},
+        {m_ui->Command15, m_ui->txtVPmodsB, -0.01F}, {m_ui->Command16, m_ui->txtVPmodsB, 0.01F},
+    };
+    for (const auto& [button, box, change] : modifiers) {
+        stepper(button, box,
+                [change = change](const QString& text) { return steppedVictoryModifier(text, change); });
+    }
+}
+
+void OverviewFrm::connectTyping()
+{
+    for (QLineEdit* box : {m_ui->txtDisengageA, m_ui->txtDisengageB}) {
+        on(box, &QLineEdit::textChanged,
+           [this, box] { check(box, checkHeading, OverviewMessage::HeadingRange); });
+    }
+    for (QLineEdit* box : {m_ui->txtVPmodsA, m_ui->txtVPmodsB}) {
+        on(box, &QLineEdit::textChanged,
+           [this, box] { check(box, checkVictoryModifier, OverviewMessage::ModifierRange); });
+    }
+    on(m_ui->TxtTitle, &QLineEdit::textChanged, [this] { titleChanged(); });
+    on(m_ui->RichTxtDescrip, &QPlainTextEdit::textChanged, [this] { descriptionChanged(); });
+}
+
+void OverviewFrm::check(QLineEdit* box, TypedCheck (*rule)(QStringView), OverviewMessage message)
+{
+    const TypedCheck typed = rule(box->text());
+    if (typed.accepted) {
+        return;
+    }
+    m_editor.services().messageBoxes.show(
+        {.text = overviewMessage(message, m_editor.language()),
+         .title = overviewMessage(OverviewMessage::OutOfRangeTitle, m_editor.language()),
+         .icon = MessageBox::Icon::Information});
+    box->setText(typed.text);
+}
+
+void OverviewFrm::titleChanged()
+{
+    const LockedText rule = lockedTitle(m_ui->TxtTitle->text());
+    if (!rule.locked) {
+        return;
+    }
+    if (m_ui->TxtTitle->text() != rule.text) {
+        m_ui->TxtTitle->setText(rule.text);
+    }
+    m_ui->TxtTitle->setReadOnly(true);
+}
+
+void OverviewFrm::descriptionChanged()
+{
+    const QString text = m_ui->RichTxtDescrip->toPlainText();
+    const QString line = text.contains(QLatin1Char('\n')) ? oneParagraph(text) : text;
+    const LockedText rule = lockedDescription(line);
+    if (rule.text != text) {
+        m_ui->RichTxtDescrip->setPlainText(rule.text);
+        m_ui->RichTxtDescrip->moveCursor(QTextCursor::End);
+    }
+    if (rule.locked) {
+        m_ui->RichTxtDescrip->setReadOnly(true);
+    }
+}
+
+// A box at its limit takes keys again with the next key or pointer event over it.
+void OverviewFrm::unlock(QObject* box)
+{
+    if (box == m_ui->TxtTitle) {
+        m_ui->TxtTitle->setReadOnly(false);
+    } else if (box == m_ui->RichTxtDescrip || box == m_ui->RichTxtDescrip->viewport()) {
+        m_ui->RichTxtDescrip->setReadOnly(false);
+    }
+}
+
+static bool isPointerOrKey(QEvent::Type type)
+{
+    return type == QEvent::MouseMove || type == QEvent::MouseButtonPress || type == QEvent::HoverMove ||
+           type == QEvent::Enter || type == QEvent::KeyPress || type == QEvent::ShortcutOverride;
+}
+
+bool OverviewFrm::eventFilter(QObject* watched, QEvent* event)
+{
+    if (Form::eventFilter(watched, event)) {
+        return true;
+    }
+    if (isPointerOrKey(event->type())) {
+        unlock(watched);
+    }
+    if (event->type() == QEvent::KeyPress && watched == m_ui->RichTxtDescrip) {
+        const int key = static_cast<QKeyEvent*>(event)->key();
+        if (key == Qt::Key_Return || key == Qt::Key_Enter) {
+            // Enter makes no new line: the description stays one paragraph.
+            runHandler([this] {
+                m_ui->RichTxtDescrip->setPlainText(oneParagraph(m_ui->RichTxtDescrip->toPlainText()));
+                m_ui->cmbMission->setFocus();
+            });
+            return true;
+        }
+    }
+    return false;
+}
+
+OverviewValues OverviewFrm::values() const
+{
+    return {.title = m_ui->TxtTitle->text(),
+            .description = m_ui->RichTxtDescrip->toPlainText(),
+            .mission = m_ui->cmbMission->shownText(),
+            .blueNavy = m_ui->CmbBlueSide->shownText(),
+            .redNavy = m_ui->CmbRedSide->shownText(),
+            .movie = m_ui->cmbMovie->shownText(),
+            .disengageA = m_ui->txtDisengageA->text(),
+            .disengageB = m_ui->txtDisengageB->text(),
+            .modifierA = m_ui->txtVPmodsA->text(),
+            .modifierB = m_ui->txtVPmodsB->text(),
+            .forceA = lblForceA->text(),
+            .forceB = lblForceB->text(),
+            .blueCondition = m_blueCondition->shownText(),
+            .redCondition = m_redCondition->shownText(),
+            .victoryMods = m_victoryMods->shownText()};
+}
+
+void OverviewFrm::show(const OverviewValues& values)
+{
+    m_ui->TxtTitle->setText(values.title);
+    m_ui->RichTxtDescrip->setPlainText(values.description);
+    m_blueCondition->showText(values.blueCondition);
+    m_redCondition->showText(values.redCondition);
+    m_victoryMods->showText(values.victoryMods);
+    m_ui->CmbBlueSide->showEntry(values.blueNavy);
+    m_ui->CmbRedSide->showEntry(values.redNavy);
+    m_ui->txtDisengageA->setText(values.disengageA);
+    m_ui->txtDisengageB->setText(values.disengageB);
+    m_ui->cmbMission->showEntry(values.mission);
+    m_ui->txtVPmodsA->setText(values.modifierA);
+    m_ui->txtVPmodsB->setText(values.modifierB);
+    lblForceA->setText(values.forceA);
+    lblForceB->setText(values.forceB);
+    m_ui->cmbMovie->showText(values.movie);
+}
+
+void OverviewFrm::WriteINI()
+{
+    const ScenarioValues shown{.overview = values(), .environment = m_editor.enviroFrm().values()};
+    for (const auto& [key, value] : encodeScenario(shown, m_editor.language())) {
+        m_editor.workingProfile().write(u"SCENARIODATA", key, value);
+    }
+}
+
+void OverviewFrm::loadExisting()
+{
+    ScenarioValues loaded{.overview = values(), .environment = m_editor.enviroFrm().values()};
+    for (const LoadedKey& key : overviewKeys()) {
+        const QString stored = m_editor.workingProfile().GetIniKey(u"SCENARIODATA", key.name);
+        applyOverviewKey(key.name, stored, loaded, m_editor.language());
+    }
+    show(loaded.overview);
+    m_editor.enviroFrm().show(loaded.environment);
+}
+
+void OverviewFrm::applyScenarioDefaults()
+{
+    const ScenarioValues defaults = scenarioDefaults(m_editor.language());
+    show(defaults.overview);
+    m_editor.enviroFrm().show(defaults.environment);
+}
+
+void OverviewFrm::onActivate()
+{
+    if (m_returning) {
+        m_returning = false;
+        return;
+    }
+    const bool fresh = valueOf(ChknewFlag) == 1;
+    m_ui->CmdCancel->setEnabled(!fresh);
+    if (fresh) {
+        applyScenarioDefaults();
+        WriteINI();
+    } else {
+        loadExisting();
+    }
+    const bool swapped =
+        rolesSwapped(m_editor.workingProfile().GetIniKey(u"SCENARIODATA", u"BLUE_FORCE_TYPE"));
+    setForces(swapped);
+    showMission(swapped);
+}
+
+void OverviewFrm::setForces(bool swapped)
+{
+    const Language language = m_editor.language();
+    lblForceA->setText((swapped ? forceB : forceA).in(language));
+    lblForceB->setText((swapped ? forceA : forceB).in(language));
+}
+
+const Mission* OverviewFrm::mission() const
+{
+    return missionOfCaption(m_ui->cmbMission->shownText(), m_editor.language());
+}
+
+void OverviewFrm::showMission(bool swapped)
+{
+    const Mission* chosen = mission();
+    if (!chosen) {
+        return;
+    }
+    const MissionBrief brief = missionBrief(*chosen, m_editor.language(), swapped);
+    m_ui->lblMissionA->setText(brief.firstRole);
+    m_ui->lblMissionB->setText(brief.secondRole);
+    m_ui->RTxtBBlueBrief->setPlainText(brief.objectiveA);
+    m_ui->RTxtBRedBrief->setPlainText(brief.objectiveB);
+    setValue(m_editor.mainFrm().chkBombardment, chosen->needsTargetArea ? 1 : 0);
+}
+
+void OverviewFrm::openEnvironment()
+{
+    m_returning = true;
+    m_editor.enviroFrm().showForm(this);
+    setInputEnabled(false);
 }
 
 void OverviewFrm::save()
 {
-    MainFrm& mainFrm = m_editor.mainFrm();
-    mainFrm.setInputEnabled(true);
+    leave();
+    if (valueOf(ChknewFlag) == 1) {
+        setValue(ChknewFlag, 0);
+        setValue(m_editor.createDivisionFrm().ChknewBlueFlag, 1);
+        setValue(m_editor.createDivisionFrm().ChknewRedFlag, 1);
+        const MainMenu& menu = m_editor.mainFrm().menu();
+        for (const char* entry : {"mnuCreateForceA", "mnuCreateForceB"}) {
+            menu.setVisible(QLatin1StringView(entry), true);
+            menu.setEnabled(QLatin1StringView(entry), true);
+        }
+    }
+    WriteINI();
+}
+
+void OverviewFrm::onCloseBox()
+{
+    if (m_ui->CmdCancel->isEnabled()) {
+        leave();
+    }
+}
+
+void OverviewFrm::leave()
+{
+    m_editor.mainFrm().setInputEnabled(true);
     hideForm();
-    if (valueOf(ChknewFlag) != 1) {
-        return;
-    }
-    setValue(ChknewFlag, 0);
-    setValue(m_editor.createDivisionFrm().ChknewBlueFlag, 1);
-    setValue(m_editor.createDivisionFrm().ChknewRedFlag, 1);
-    for (const char* entry : {"mnuCreateForceA", "mnuCreateForceB"}) {
-        mainFrm.menu().setVisible(QLatin1StringView(entry), true);
-        mainFrm.menu().setEnabled(QLatin1StringView(entry), true);
-    }
 }
 
 } // namespace torvane

@@ -16,8 +16,9 @@ constexpr int modifierCharacters = 5;
 
 LockedText lockedAt(const QString& text, qsizetype limit)
 {
-    if (text.size() < limit)
+    if (text.size() < limit) {
         return {text, false};
+    }
     const bool halvesACharacter = text.at(limit - 1).isHighSurrogate();
     return {text.left(halvesACharacter ? limit - 1 : limit), true};
 }
@@ -43,16 +44,18 @@ QString oneParagraph(const QString& text)
 TypedCheck checkHeading(QStringView text)
 {
     const double heading = integerPart(text);
-    if (heading < 0 || heading > highestHeading)
+    if (heading < 0 || heading > highestHeading) {
         return {false, QStringLiteral("0")};
+    }
     return {true, text.toString()};
 }
 
 QString steppedHeading(QStringView text, int step)
 {
     const int heading = integerValue(text) + step;
-    if (heading < 0)
+    if (heading < 0) {
         return QString::number(highestHeading);
+    }
     return QString::number(heading > highestHeading ? 0 : heading);
 }
 
@@ -65,16 +68,18 @@ QString steppedHeadingInSinglePrecision(QStringView text)
 TypedCheck checkVictoryModifier(QStringView text)
 {
     const double modifier = integerPart(text.left(modifierCharacters));
-    if (modifier < 0 || modifier >= 99.99)
+    if (modifier < 0 || modifier >= 99.99) {
         return {false, QStringLiteral("0")};
+    }
     return {true, text.toString()};
 }
 
 QString steppedVictoryModifier(QStringView text, float step)
 {
     const float modifier = singleValue(text.left(modifierCharacters)) + step;
-    if (modifier < lowestModifier)
+    if (modifier < lowestModifier) {
         return textOf(highestModifier);
+    }
     return textOf(modifier > highestModifier ? lowestModifier : modifier);
 }
 

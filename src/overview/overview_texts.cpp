@@ -144,8 +144,9 @@ template <typename Rows, typename TextOfRow>
 QStringList textsOf(const Rows& rows, TextOfRow textOfRow)
 {
     QStringList texts;
-    for (const auto& row : rows)
+    for (const auto& row : rows) {
         texts.append(textOfRow(row));
+    }
     return texts;
 }
 
@@ -154,11 +155,13 @@ QStringList plainList(QStringView control)
     QStringList texts;
     const auto list =
         std::ranges::find_if(plainLists, [&](const PlainList& row) { return row.control == control; });
-    if (list == plainLists.end())
+    if (list == plainLists.end()) {
         return texts;
+    }
     for (const char* entry : list->entries) {
-        if (entry != nullptr)
+        if (entry != nullptr) {
             texts.append(QString::fromLatin1(entry));
+        }
     }
     return texts;
 }
@@ -181,20 +184,27 @@ QStringList listContents(QStringView control, Language language)
 {
     const auto caption = [&](const auto& row) { return row.caption.in(language); };
     const auto self = [&](const Bilingual& text) { return text.in(language); };
-    if (control == "cmbMission"_L1)
+    if (control == "cmbMission"_L1) {
         return textsOf(missions, caption);
-    if (control == "CmbBlueSide"_L1 || control == "CmbRedSide"_L1)
+    }
+    if (control == "CmbBlueSide"_L1 || control == "CmbRedSide"_L1) {
         return textsOf(navies, caption);
-    if (control == "cmbMovie"_L1)
+    }
+    if (control == "cmbMovie"_L1) {
         return textsOf(movies, [](const Movie& movie) { return QString::fromLatin1(movie.listed); });
-    if (control == "ComboMonth"_L1)
+    }
+    if (control == "ComboMonth"_L1) {
         return textsOf(months, self);
-    if (control == "ComboLocation"_L1)
+    }
+    if (control == "ComboLocation"_L1) {
         return textsOf(locations, self);
-    if (control == "ComboAirSup"_L1)
+    }
+    if (control == "ComboAirSup"_L1) {
         return textsOf(airControls, caption);
-    if (control == "cmbRain"_L1)
+    }
+    if (control == "cmbRain"_L1) {
         return textsOf(rainStates, caption);
+    }
     return plainList(control);
 }
 

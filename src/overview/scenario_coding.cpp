@@ -74,8 +74,9 @@ QString storedRain(const QString& caption, Language language)
 QString storedVisibility(const QString& text, Language)
 {
     QString number = text;
-    if (number.endsWith(u'%'))
+    if (number.endsWith(u'%')) {
         number.chop(1);
+    }
     return storedNumber(number.trimmed());
 }
 
@@ -180,8 +181,9 @@ QString shownMovie(const QString& stored, Language language)
 {
     const double number = boundedValue(stored);
     for (std::size_t index = 0; index < movies.size(); ++index) {
-        if (number == static_cast<double>(index))
+        if (number == static_cast<double>(index)) {
             return movies.at(index).loaded.in(language);
+        }
     }
     return stored;
 }

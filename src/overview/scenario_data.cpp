@@ -140,8 +140,9 @@ template <OverviewField field, QString (*shownAs)(const QString&, Language)>
 void select(ScenarioValues& values, const QString& stored, Language language)
 {
     const QString caption = shownAs(stored, language);
-    if (!caption.isEmpty())
+    if (!caption.isEmpty()) {
         values.overview.*field = caption;
+    }
 }
 
 void showForces(ScenarioValues& values, const QString& stored, Language language)
@@ -213,8 +214,9 @@ std::span<const LoadedKey> environmentKeys()
 ScenarioValues scenarioDefaults(Language language)
 {
     ScenarioValues values;
-    for (const ScenarioKey& key : scenarioKeys)
+    for (const ScenarioKey& key : scenarioKeys) {
         applyOverviewKey(key.name, key.defaultValue.in(language), values, language);
+    }
     return values;
 }
 
@@ -234,8 +236,9 @@ std::vector<KeyValue> encodeEnvironment(const EnvironmentValues& values, Languag
     const ScenarioValues all{{}, values};
     std::vector<KeyValue> pairs;
     for (const ScenarioKey& key : scenarioKeys) {
-        if (key.source == Source::Environment || key.source == Source::FixedUnlessEnvironment)
+        if (key.source == Source::Environment || key.source == Source::FixedUnlessEnvironment) {
             pairs.emplace_back(key.name.toString(), oneParagraph(key.encode(all, language)));
+        }
     }
     return pairs;
 }
@@ -243,19 +246,22 @@ std::vector<KeyValue> encodeEnvironment(const EnvironmentValues& values, Languag
 void applyOverviewKey(QStringView key, const QString& stored, ScenarioValues& values, Language language)
 {
     const LoadedKey* row = loadedKey(overviewKeys(), key);
-    if (row == nullptr)
+    if (row == nullptr) {
         return;
-    if (row->overview != nullptr)
+    }
+    if (row->overview != nullptr) {
         row->overview(values, stored, language);
-    else
+    } else {
         row->environment(values.environment, stored, language);
+    }
 }
 
 void applyEnvironmentKey(QStringView key, const QString& stored, EnvironmentValues& values, Language language)
 {
     const LoadedKey* row = loadedKey(environmentKeys(), key);
-    if (row != nullptr && row->environment != nullptr)
+    if (row != nullptr && row->environment != nullptr) {
         row->environment(values, stored, language);
+    }
 }
 
 bool rolesSwapped(QStringView blueForceType)

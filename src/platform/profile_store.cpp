@@ -194,10 +194,8 @@ std::optional<ProfileStore::Private::Failure> ProfileStore::Private::save(File& 
         put(file);
         file.hasUnsavedWrites = file.isFailing = file.isUnread = false;
         file.isThere = true;
-        file.stamp = stampOf(file.systemPath);
-        if (file.stamp && !isSettled(*file.stamp)) {
-            file.stamp.reset();
-        }
+        // Read anew at the next event: a change right behind our own may show in no time stamp.
+        file.stamp.reset();
         return std::nullopt;
     } catch (const RuntimeError& error) {
         reason = error.text();
@@ -256,7 +254,8 @@ bool ProfileStore::write(const QString& file, QStringView section, QStringView k
 {
     File& target = d->lookedAt(file);
     const bool changed = target.profile.setValue(toCodePage(section), toCodePage(key), toCodePage(value));
-    target.hasUnsavedWrites = target.hasUnsavedWrites || changed || !target.isThere;
+    // A file that is gone must come back, even if we hold the value already.
+    target.hasUnsavedWrites = target.hasUnsavedWrites || changed || !stampOf(target.systemPath);
     if (d->depth > 0 || !target.hasUnsavedWrites) {
         return true;
     }

@@ -1,6 +1,7 @@
 #include "shell/editor.h"
 
 #include "divisions/create_division_frm.h"
+#include "overview/enviro_frm.h"
 #include "overview/overview_frm.h"
 #include "shell/about_frm.h"
 #include "shell/captions.h"
@@ -93,6 +94,11 @@ AboutFrm& Editor::aboutFrm()
 OverviewFrm& Editor::overviewFrm()
 {
     return loaded(m_overviewFrm);
+}
+
+EnviroFrm& Editor::enviroFrm()
+{
+    return loaded(m_enviroFrm);
 }
 
 CreateDivisionFrm& Editor::createDivisionFrm()

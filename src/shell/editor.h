@@ -21,6 +21,7 @@ namespace torvane {
 
 class AboutFrm;
 class CreateDivisionFrm;
+class EnviroFrm;
 class MainFrm;
 class OverviewFrm;
 class frmSplash;
@@ -70,6 +71,7 @@ public:
     frmSplash& splashFrm();
     AboutFrm& aboutFrm();
     OverviewFrm& overviewFrm();
+    EnviroFrm& enviroFrm();
     CreateDivisionFrm& createDivisionFrm();
 
     /// Shows the platform's own error.
@@ -94,6 +96,7 @@ private:
 
     std::unique_ptr<CreateDivisionFrm> m_createDivisionFrm;
     std::unique_ptr<OverviewFrm> m_overviewFrm;
+    std::unique_ptr<EnviroFrm> m_enviroFrm;
     std::unique_ptr<AboutFrm> m_aboutFrm;
     std::unique_ptr<frmSplash> m_splashFrm;
     std::unique_ptr<MainFrm> m_mainFrm;

@@ -1,6 +1,7 @@
 #include "shell/main_frm.h"
 
 #include "divisions/create_division_frm.h"
+#include "overview/overview_frm.h"
 #include "platform/number_text.h"
 #include "platform/picture_box.h"
 #include "platform/pointer.h"
@@ -49,7 +50,10 @@ MainFrm::MainFrm(Editor& editor)
 {
     auto* bar = new QMenuBar(this);
     bar->setObjectName(QStringLiteral("menuBar"));
-    bar->setStyleSheet(QStringLiteral("QMenuBar::item { padding: 4px 5px; }"));
+    bar->setStyleSheet(QStringLiteral(
+        "QMenuBar { background: palette(window); border: none; }"
+        "QMenuBar::item { background: transparent; padding: 4px 5px; }"
+        "QMenuBar::item:selected { background: palette(highlight); color: palette(highlighted-text); }"));
     m_menu = new MainMenu(bar);
     makeSurface();
     makeHelpTags();
@@ -135,6 +139,7 @@ void MainFrm::connectCommands()
         on(m_menu->action(QLatin1StringView(entry)), &QAction::triggered, handler);
     };
     command("mnuNew", [this] { newScenario(m_editor); });
+    command("mnuOverView", [this] { showOverview(); });
     command("mnuExit", [this] { unload(); });
     command("mnuHotText", [this] { toggleHelpTags(); });
     command("mnuAbout", [this] { showAbout(); });
@@ -293,6 +298,12 @@ void MainFrm::toggleHelpTags()
     entry->setChecked(m_helpTagsOn);
     entry->setText(
         mainText(m_helpTagsOn ? MainText::HelpTagsOn : MainText::HelpTagsOff, m_editor.language()));
+}
+
+void MainFrm::showOverview()
+{
+    m_editor.overviewFrm().showForm(this);
+    setInputEnabled(false);
 }
 
 void MainFrm::showAbout()

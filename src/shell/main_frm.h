@@ -86,6 +86,7 @@ private:
     void takeReturnedPosition();
 
     void toggleHelpTags();
+    void showOverview();
     void showAbout();
     void unload();
 

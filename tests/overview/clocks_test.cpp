@@ -45,15 +45,18 @@ ClockTime sunriseHour(int h, int m, Step step)
         return {h >= 12 ? 3 : h, m};
     case Step::PlusKey:
         h += 1;
-        if (h == 11)
+        if (h == 11) {
             return {11, 0};
-        if (h >= 12)
+        }
+        if (h >= 12) {
             return {3, 0};
+        }
         return {h, m};
     case Step::MinusKey:
         h -= 1;
-        if (h < 3)
+        if (h < 3) {
             return {11, 0};
+        }
         return {h, m};
     }
     return {-1, -1};
@@ -67,15 +70,17 @@ ClockTime sunriseMinutes(int h, int m, Step step)
         return {h, m == 60 ? 0 : m};
     case Step::PlusKey:
         m += 1;
-        if (m == 60 || h == 11)
+        if (m == 60 || h == 11) {
             m = 0;
+        }
         return {h, m};
     case Step::MinusKey:
         m -= 1;
-        if (h == 11)
+        if (h == 11) {
             m = 0;
-        else if (m < 0)
+        } else if (m < 0) {
             m = 59;
+        }
         return {h, m};
     }
     return {-1, -1};
@@ -89,15 +94,18 @@ ClockTime sunsetHour(int h, int m, Step step)
         return {h >= 24 ? 13 : h, m};
     case Step::PlusKey:
         h += 1;
-        if (h == 23)
+        if (h == 23) {
             return {23, 0};
-        if (h >= 24)
+        }
+        if (h >= 24) {
             return {13, 0};
+        }
         return {h, m};
     case Step::MinusKey:
         h -= 1;
-        if (h < 13)
+        if (h < 13) {
             return {23, 0};
+        }
         return {h, m};
     }
     return {-1, -1};
@@ -108,22 +116,26 @@ ClockTime sunsetMinutes(int h, int m, Step step)
     switch (step) {
     case Step::Click:
         m += 1;
-        if (h >= 23 && m >= 1)
+        if (h >= 23 && m >= 1) {
             h = 13;
-        if (m == 60)
+        }
+        if (m == 60) {
             m = 0;
+        }
         return {h, m};
     case Step::PlusKey:
         m += 1;
-        if (m == 60 || h == 23)
+        if (m == 60 || h == 23) {
             m = 0;
+        }
         return {h, m};
     case Step::MinusKey:
         m -= 1;
-        if (h == 23)
+        if (h == 23) {
             m = 0;
-        else if (m < 0)
+        } else if (m < 0) {
             m = 59;
+        }
         return {h, m};
     }
     return {-1, -1};

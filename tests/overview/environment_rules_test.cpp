@@ -44,22 +44,25 @@ TEST(SeaState, TheTableHoldsTheEightBands)
 TEST(SeaState, EveryWindFrom1To40BringsTheStateOfItsBand)
 {
     for (const Band& band : bands) {
-        for (int wind = band.low; wind <= band.high; ++wind)
+        for (int wind = band.low; wind <= band.high; ++wind) {
             EXPECT_EQ(seaStateOfWind(wind), band.seaState) << wind;
+        }
     }
 }
 
 TEST(SeaState, AWindOutsideTheBandsBringsNone)
 {
-    for (const double wind : {0.0, 41.0, -1.0, 1e300})
+    for (const double wind : {0.0, 41.0, -1.0, 1e300}) {
         EXPECT_EQ(seaStateOfWind(wind), std::nullopt) << wind;
+    }
 }
 
 TEST(PickedSeaState, AWindThatFitsStaysAndNothingIsDrawn)
 {
     for (const Band& band : bands) {
-        for (int wind = band.low; wind <= band.high; ++wind)
+        for (int wind = band.low; wind <= band.high; ++wind) {
             EXPECT_EQ(windForSeaState(band.seaState, QString::number(wind), noDraw), wind);
+        }
     }
     EXPECT_EQ(windForSeaState(3, u"10", noDraw), 10);
 }
@@ -108,16 +111,19 @@ TEST(PickedSeaState, AnEmptyBoxCountsAs1)
 
 TEST(PickedSeaState, AWindThatIsNoNumberIsDrawnAnew)
 {
-    for (const QString& text : {QStringLiteral("INVALID"), QStringLiteral("-5"), digits, u'-' + digits})
+    for (const QString& text : {QStringLiteral("INVALID"), QStringLiteral("-5"), digits, u'-' + digits}) {
         EXPECT_EQ(windForSeaState(8, text, [] { return 0.0; }), 34);
-    for (const QString& text : {QStringLiteral("INVALID"), QStringLiteral("-5"), digits, u'-' + digits})
+    }
+    for (const QString& text : {QStringLiteral("INVALID"), QStringLiteral("-5"), digits, u'-' + digits}) {
         EXPECT_EQ(windForSeaState(1, text, [] { return 0.0; }), 1);
+    }
 }
 
 TEST(PickedSeaState, AStateWithoutABandIsRefused)
 {
-    for (const int seaState : {0, 9, -1})
+    for (const int seaState : {0, 9, -1}) {
         EXPECT_THROW(windForSeaState(seaState, u"10", noDraw), RuntimeError);
+    }
 }
 
 void expectWind(const QString& typed, bool accepted, const QString& text, std::optional<int> seaState)
@@ -131,16 +137,18 @@ void expectWind(const QString& typed, bool accepted, const QString& text, std::o
 TEST(TypedWind, EveryWholeSpeedFrom1To40PassesAndBringsItsSeaState)
 {
     for (const Band& band : bands) {
-        for (int wind = band.low; wind <= band.high; ++wind)
+        for (int wind = band.low; wind <= band.high; ++wind) {
             expectWind(QString::number(wind), true, QString::number(wind), band.seaState);
+        }
     }
 }
 
 TEST(TypedWind, FortyOneIsRefusedAndTheBoxHolds1InASeaStateOf1)
 {
     for (const char16_t* typed : {u"41", u"0", u"-1", u"-0.5", u"0.9", u"1000", u" ", u"knots", u"INVALID",
-                                  u"-", u"+", u".", u",5", u"\n", u"⚓"})
+                                  u"-", u"+", u".", u",5", u"\n", u"⚓"}) {
         expectWind(QString::fromUtf16(typed), false, QStringLiteral("1"), 1);
+    }
 }
 
 TEST(TypedWind, NothingTypedLeavesTheBoxEmptyAndTheSeaStateUntouched)
@@ -159,8 +167,9 @@ TEST(TypedWind, TheIntegerPartDecidesAndTheTextStays)
 
 TEST(TypedWind, ANumberBeyondAllBoundsIsRefusedLikeAnyOther)
 {
-    for (const QString& typed : {digits, u'-' + digits, QStringLiteral("1E999"), u"  -"_s + digits})
+    for (const QString& typed : {digits, u'-' + digits, QStringLiteral("1E999"), u"  -"_s + digits}) {
         expectWind(typed, false, QStringLiteral("1"), 1);
+    }
 }
 
 TEST(WindStepper, StepsByOneAndWrapsPast40AndBelow1)
@@ -191,9 +200,10 @@ TEST(WindStepper, DamagedTextsEndInTheRange)
 
 TEST(TypedDirection, AValidDirectionIsRewrittenAsItsInteger)
 {
-    for (int direction = 0; direction <= 360; ++direction)
+    for (int direction = 0; direction <= 360; ++direction) {
         EXPECT_EQ(checkWindDirection(QString::number(direction)),
                   (TypedCheck{true, QString::number(direction)}));
+    }
     EXPECT_EQ(checkWindDirection(u"360.9"), (TypedCheck{true, u"360"_s}));
     EXPECT_EQ(checkWindDirection(u"007"), (TypedCheck{true, u"7"_s}));
     EXPECT_EQ(checkWindDirection(u"12,5"), (TypedCheck{true, u"12"_s}));
@@ -205,8 +215,9 @@ TEST(TypedDirection, AValidDirectionIsRewrittenAsItsInteger)
 
 TEST(TypedDirection, BeyondTheCircleIsRefusedAndTheBoxHolds0)
 {
-    for (const QString& typed : {u"361"_s, u"-1"_s, u"-0.1"_s, u"1E3"_s, digits, u'-' + digits})
+    for (const QString& typed : {u"361"_s, u"-1"_s, u"-0.1"_s, u"1E3"_s, digits, u'-' + digits}) {
         EXPECT_EQ(checkWindDirection(typed), (TypedCheck{false, u"0"_s})) << typed.toStdString();
+    }
 }
 
 TEST(DirectionStepper, StepsByOneAndWrapsPast360AndBelow0)
@@ -283,10 +294,12 @@ TEST(VisibilityOfTheHour, DaybreakAt10RaisesItTo40)
 
 TEST(VisibilityOfTheHour, WhatFitsStaysAsItStands)
 {
-    for (int value = 0; value <= 40; ++value)
+    for (int value = 0; value <= 40; ++value) {
         EXPECT_EQ(visibilityAt(percent(value), false), percent(value));
-    for (int value = 40; value <= 100; ++value)
+    }
+    for (int value = 40; value <= 100; ++value) {
         EXPECT_EQ(visibilityAt(percent(value), true), percent(value));
+    }
     EXPECT_EQ(visibilityAt(u"041"_s, true), u"041"_s);
     EXPECT_EQ(visibilityAt(u"7"_s, false), u"7"_s);
 }

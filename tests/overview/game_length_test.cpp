@@ -59,14 +59,16 @@ TEST(LengthOfTheGame, ClicksFromTheDefaultReachHalfAnHourToThreeAndAHalfAndNothi
     while (!open.empty()) {
         const GameLength from = open.back();
         open.pop_back();
-        if (!reached.insert(gameLengthCaption(from)).second)
+        if (!reached.insert(gameLengthCaption(from)).second) {
             continue;
+        }
         open.push_back(steppedGameLengthHour(from));
         open.push_back(steppedGameLengthMinutes(from));
     }
     std::set<QString> expected;
-    for (const Row& row : rows)
+    for (const Row& row : rows) {
         expected.insert(QString::fromLatin1(row.caption));
+    }
     EXPECT_EQ(reached, expected);
 }
 

@@ -152,8 +152,9 @@ TEST(Missions, ABattleTypeIsFoundByItsCode)
 
 TEST(Missions, ATextThatIsNoCodeIsNoMission)
 {
-    for (const char16_t* text : {u"", u"5", u"-1", u"00", u"1.0", u"INVALID", u"Convoy"})
+    for (const char16_t* text : {u"", u"5", u"-1", u"00", u"1.0", u"INVALID", u"Convoy"}) {
         EXPECT_EQ(missionOfBattleType(text), nullptr) << QString::fromUtf16(text).toStdString();
+    }
 }
 
 TEST(Missions, OnlyBombardmentAndTacticalTransportOfferATargetArea)

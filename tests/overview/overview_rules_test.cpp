@@ -23,21 +23,24 @@ TypedCheck fails()
 
 TEST(TypedHeading, EveryWholeHeadingOfTheCirclePasses)
 {
-    for (int heading = 0; heading <= 360; ++heading)
+    for (int heading = 0; heading <= 360; ++heading) {
         EXPECT_EQ(checkHeading(QString::number(heading)), passes(QString::number(heading)));
+    }
 }
 
 TEST(TypedHeading, TheIntegerPartDecidesAndTheTextStays)
 {
     for (const QString& text : {u"360.9"_s, u"0.5"_s, u""_s, u"INVALID"_s, u"12,7"_s, u" 9 0 "_s, u"⚓"_s,
-                                u"-"_s, u"-0"_s, u"1\n2"_s})
+                                u"-"_s, u"-0"_s, u"1\n2"_s}) {
         EXPECT_EQ(checkHeading(text), passes(text)) << text.toStdString();
+    }
 }
 
 TEST(TypedHeading, OutsideTheCircleTheBoxHolds0)
 {
-    for (const QString& text : {u"361"_s, u"-1"_s, u"-0.5"_s, u"1E9"_s, u"1E999"_s, digits, u'-' + digits})
+    for (const QString& text : {u"361"_s, u"-1"_s, u"-0.5"_s, u"1E9"_s, u"1E999"_s, digits, u'-' + digits}) {
         EXPECT_EQ(checkHeading(text), fails()) << text.toStdString();
+    }
 }
 
 TEST(HeadingStepper, StepsByOneAndWrapsPast360AndBelow0)
@@ -94,15 +97,17 @@ TEST(HeadingStepperInSinglePrecision, DamagedTextsAreStepped)
 TEST(TypedModifier, TheLooseBoundsLet0And99Point995Pass)
 {
     for (const QString& text : {u"0"_s, u"0.00"_s, u"0.01"_s, u"1.00"_s, u"99.99"_s, u"99.995"_s, u"99"_s,
-                                u""_s, u"INVALID"_s, u"1,5"_s, u"⚓"_s, u"-"_s})
+                                u""_s, u"INVALID"_s, u"1,5"_s, u"⚓"_s, u"-"_s}) {
         EXPECT_EQ(checkVictoryModifier(text), passes(text)) << text.toStdString();
+    }
 }
 
 TEST(TypedModifier, A100AndANegativeNumberAreRefusedAndTheBoxHolds0)
 {
     for (const QString& text :
-         {u"100"_s, u"100.0"_s, u"-1"_s, u"-0.5"_s, u"1E9"_s, u"9E999"_s, digits, u'-' + digits})
+         {u"100"_s, u"100.0"_s, u"-1"_s, u"-0.5"_s, u"1E9"_s, u"9E999"_s, digits, u'-' + digits}) {
         EXPECT_EQ(checkVictoryModifier(text), fails()) << text.toStdString();
+    }
 }
 
 TEST(TypedModifier, OnlyTheFirstFiveCharactersCount)

@@ -103,8 +103,9 @@ TEST(OverviewTexts, TheMessagesAreTheTables)
         EXPECT_EQ(overviewMessage(message, Language::German), QString::fromUtf8(german));
     };
     ASSERT_EQ(overviewMessages.size(), 4U);
-    for (std::size_t i = 0; i < overviewMessages.size(); ++i)
+    for (std::size_t i = 0; i < overviewMessages.size(); ++i) {
         EXPECT_EQ(static_cast<std::size_t>(overviewMessages[i].message), i);
+    }
     both(M::OutOfRangeTitle, "Out of Range", "Ausserhalb Ihrer Reichweite");
     both(M::HeadingRange, "You must enter a heading between 0 and 360 degrees.",
          "Sie müssen einen Wert zwischen 0 und 360 eingeben.");
@@ -157,8 +158,9 @@ TEST(ListContents, PlainListsAreTheSameInBothLanguages)
         {"ComboRedVC",
          "None|Disengage North|Disengage East|Disengage South|Disengage West|Destroy Enemy Forces"},
     };
-    for (const auto& list : lists)
+    for (const auto& list : lists) {
         expectList(list[0], list[1], list[1]);
+    }
 }
 
 TEST(ListContents, AControlThatIsNoListHasNone)

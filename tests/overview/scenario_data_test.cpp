@@ -91,15 +91,17 @@ TEST(ScenarioKeys, TheTableHoldsThe50KeysWithDefaultAndSource)
 TEST(ScenarioKeys, TheStoreKnowsTheSameKeysInTheSameOrder)
 {
     ASSERT_EQ(scenarioKeys.size(), scenarioDataKeys.size());
-    for (std::size_t i = 0; i < scenarioKeys.size(); ++i)
+    for (std::size_t i = 0; i < scenarioKeys.size(); ++i) {
         EXPECT_EQ(scenarioKeys[i].name.toString(), scenarioDataKeys[i].toString());
+    }
 }
 
 QStringList namesOf(std::span<const LoadedKey> keys)
 {
     QStringList names;
-    for (const LoadedKey& key : keys)
+    for (const LoadedKey& key : keys) {
         names.append(key.name.toString());
+    }
     return names;
 }
 

@@ -28,16 +28,18 @@ ScenarioValues marked()
           &OverviewValues::blueNavy, &OverviewValues::redNavy, &OverviewValues::movie,
           &OverviewValues::disengageA, &OverviewValues::disengageB, &OverviewValues::modifierA,
           &OverviewValues::modifierB, &OverviewValues::forceA, &OverviewValues::forceB,
-          &OverviewValues::blueCondition, &OverviewValues::redCondition, &OverviewValues::victoryMods})
+          &OverviewValues::blueCondition, &OverviewValues::redCondition, &OverviewValues::victoryMods}) {
         values.overview.*field = u"mark %1"_s.arg(++number);
+    }
     for (QString EnvironmentValues::*field :
          {&EnvironmentValues::startTime, &EnvironmentValues::sunrise, &EnvironmentValues::sunset,
           &EnvironmentValues::month, &EnvironmentValues::year, &EnvironmentValues::airControl,
           &EnvironmentValues::location, &EnvironmentValues::visibility, &EnvironmentValues::radar,
           &EnvironmentValues::windSpeed, &EnvironmentValues::windDirection, &EnvironmentValues::moon,
           &EnvironmentValues::seaState, &EnvironmentValues::gameLength, &EnvironmentValues::gameLengthHour,
-          &EnvironmentValues::gameLengthMinutes, &EnvironmentValues::rain})
+          &EnvironmentValues::gameLengthMinutes, &EnvironmentValues::rain}) {
         values.environment.*field = u"mark %1"_s.arg(++number);
+    }
     return values;
 }
 
@@ -182,9 +184,10 @@ TEST(LoadedMission, IsTheCaptionOfTheCodeAndOtherValuesLeaveTheListAlone)
                        Language::German);
     }
     for (const char* stored : {"5", "INVALID", "", "-1", "Convoy"}) {
-        for (const Language language : languages)
+        for (const Language language : languages) {
             expectOverview("BATTLETYPE", stored, &OverviewValues::mission, marked().overview.mission,
                            language);
+        }
     }
 }
 
@@ -226,14 +229,16 @@ TEST(LoadedMovie, GoesByTheNumberSoThatInvalidIsNone)
     expectOverview("MOVIE", "INVALID", &OverviewValues::movie, u"None - 0"_s, Language::English);
     expectOverview("MOVIE", "INVALID", &OverviewValues::movie, u"Keine - 0"_s, Language::German);
     expectOverview("MOVIE", "02", &OverviewValues::movie, u"Denmark - 2"_s, Language::English);
-    for (const char* stored : {"5", "-1", "1.5", "1E999"})
+    for (const char* stored : {"5", "-1", "1.5", "1E999"}) {
         expectOverview("MOVIE", stored, &OverviewValues::movie, text(stored), Language::German);
+    }
 }
 
 TEST(LoadedVictoryMods, TheStoredValueIsIgnored)
 {
-    for (const char* stored : {"Trans 2X VP", "INVALID", "None"})
+    for (const char* stored : {"Trans 2X VP", "INVALID", "None"}) {
         expectOverview("VP_MODS", stored, &OverviewValues::victoryMods, u"None"_s, Language::German);
+    }
 }
 
 TEST(LoadedMoon, TheOverviewShowsNoneTheEnvironmentTheStoredPhase)
@@ -272,8 +277,9 @@ TEST(LoadedForces, ZeroIsThePlainOrderAndAnythingElseTheSwappedOne)
 TEST(SwappedRoles, OnlyAOneSaysSoWhenTheOverviewComesToTheFront)
 {
     EXPECT_TRUE(rolesSwapped(u"1"));
-    for (const char16_t* stored : {u"0", u"INVALID", u"", u"2", u"11"})
+    for (const char16_t* stored : {u"0", u"INVALID", u"", u"2", u"11"}) {
         EXPECT_FALSE(rolesSwapped(stored));
+    }
 }
 
 TEST(UnreadKeys, ChangeNothing)
@@ -315,8 +321,9 @@ ScenarioValues scenarioOf(int choice, Language language)
     values.environment.rain = pick(u"cmbRain");
     values.environment.sunrise = u"06:05"_s;
     values.environment.gameLength = u"2.25"_s;
-    if (choice % 2 == 1)
+    if (choice % 2 == 1) {
         std::swap(values.overview.forceA, values.overview.forceB);
+    }
     return values;
 }
 
@@ -346,8 +353,9 @@ TEST(WholeSection, OfMissingKeysOnlyIsShownAndWrittenAgainWithoutHarm)
 {
     for (const Language language : languages) {
         ScenarioValues values;
-        for (const LoadedKey& key : overviewKeys())
+        for (const LoadedKey& key : overviewKeys()) {
             applyOverviewKey(key.name, u"INVALID"_s, values, language);
+        }
         EXPECT_EQ(values.overview.title, u"INVALID"_s);
         EXPECT_EQ(values.overview.mission, QString());
         const std::vector<KeyValue> stored = encodeScenario(values, language);

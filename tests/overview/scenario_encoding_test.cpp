@@ -166,9 +166,10 @@ TEST(StoredNavy, IsWhatStandsInTheBrackets)
 
 TEST(StoredNavy, AnEmptyOrDamagedListDoesNoHarm)
 {
-    for (const char* shown : {"", "   ", "(", "()"})
+    for (const char* shown : {"", "   ", "(", "()"}) {
         EXPECT_EQ(storedOverview(&OverviewValues::blueNavy, text(shown), "BLUE_NAVY", Language::English),
                   QString());
+    }
     EXPECT_EQ(storedOverview(&OverviewValues::blueNavy, u"a (b (c)"_s, "BLUE_NAVY", Language::English),
               u"b (c"_s);
 }
@@ -252,12 +253,15 @@ TEST(StoredTexts, ALineBreakNeverReachesTheFile)
               u"At dawn [DIVISION0] SHIPCNT=9"_s);
     ScenarioValues values;
     for (QString EnvironmentValues::*field :
-         {&EnvironmentValues::startTime, &EnvironmentValues::month, &EnvironmentValues::moon})
+         {&EnvironmentValues::startTime, &EnvironmentValues::month, &EnvironmentValues::moon}) {
         values.environment.*field = u"a\nb"_s;
-    for (const auto& [key, value] : encodeScenario(values, Language::German))
+    }
+    for (const auto& [key, value] : encodeScenario(values, Language::German)) {
         EXPECT_FALSE(value.contains(u'\n')) << key.toStdString();
-    for (const auto& [key, value] : encodeEnvironment(values.environment, Language::German))
+    }
+    for (const auto& [key, value] : encodeEnvironment(values.environment, Language::German)) {
         EXPECT_FALSE(value.contains(u'\n')) << key.toStdString();
+    }
 }
 
 TEST(StoredTexts, CharactersBeyondTheBasicPlaneAreKept)
@@ -299,8 +303,9 @@ TEST(StoredMovie, IsTheLastDigitOfEitherCaption)
                                        {"Guadalcanal - 3", "3"},  {"River Plate - 4", "4"},
                                        {"River Plate - 4 ", "4"}, {"", ""}};
     for (const auto& row : captions) {
-        for (const Language language : languages)
+        for (const Language language : languages) {
             EXPECT_EQ(storedOverview(&OverviewValues::movie, text(row[0]), "MOVIE", language), text(row[1]));
+        }
     }
 }
 
@@ -333,8 +338,9 @@ TEST(FixedKeys, StayConstantWhateverTheDialogsShow)
                                     {"RED_TARGETBOX_X", "0"},
                                     {"RED_TARGETBOX_Z", "0"},
                                     {"RED_TARGETBOX_DIM", "0"}};
-    for (const auto& row : fixed)
+    for (const auto& row : fixed) {
         EXPECT_EQ(valueOf(written, row[0]), text(row[1])) << row[0];
+    }
 }
 
 TEST(EnvironmentKeys, TheDialogWrites23InOrder)
@@ -347,8 +353,9 @@ TEST(EnvironmentKeys, TheDialogWrites23InOrder)
         "MOONPHASE SEASTATE GAMELENGTH GAMELENGTH_HOUR GAMELENGTH_MINUTE RAIN"_s.split(u' ');
     ASSERT_EQ(names.size(), 23);
     QStringList written;
-    for (const auto& [key, value] : encodeEnvironment(EnvironmentValues(), Language::German))
+    for (const auto& [key, value] : encodeEnvironment(EnvironmentValues(), Language::German)) {
         written.append(key);
+    }
     EXPECT_EQ(written, names);
 }
 

@@ -17,8 +17,9 @@ inline QString valueOf(const std::vector<KeyValue>& stored, const char* key)
 inline ScenarioValues loadedScenario(const std::vector<KeyValue>& stored, Language language)
 {
     ScenarioValues values;
-    for (const LoadedKey& key : overviewKeys())
+    for (const LoadedKey& key : overviewKeys()) {
         applyOverviewKey(key.name, valueOf(stored, key.name.toLatin1().constData()), values, language);
+}
     return values;
 }
 

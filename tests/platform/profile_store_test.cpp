@@ -301,6 +301,27 @@ TEST_F(ProfileStoreWriting, WritingTheSameValueAgainMakesAFileThatIsGone)
     EXPECT_EQ(onDisk(), "[S]\r\nK=1\r\n");
 }
 
+TEST_F(ProfileStoreWriting, AFileThatGoesDuringTheEventComesBackWithIt)
+{
+    put(path(), "[S]\r\nK=1\r\n");
+    {
+        const ProfileStore::Batch batch(store);
+        EXPECT_EQ(read(u"S", u"K"), u"1");
+        ASSERT_TRUE(QFile::remove(path()));
+        write(u"S", u"K", QStringLiteral("1"));
+    }
+    EXPECT_EQ(onDisk(), "[S]\r\nK=1\r\n");
+}
+
+TEST_F(ProfileStoreWriting, AChangeRightBehindOurOwnIsSeen)
+{
+    for (int i = 0; i < 100; ++i) {
+        write(u"S", u"K", QStringLiteral("ours"));
+        put(path(), "[S]\r\nK=them\r\n");
+        EXPECT_EQ(read(u"S", u"K"), u"them");
+    }
+}
+
 TEST_F(ProfileStoreWriting, ANameThatNoReaderWouldFindThrowsAndWritesNothing)
 {
     try {

@@ -222,6 +222,16 @@ TEST_F(WriteWholeFile, AfterAFailureTheSameWriteSucceedsWhenThereIsRoomAgain)
     EXPECT_EQ(bytesOf("file"), "new");
 }
 
+TEST_F(WriteWholeFile, AFailureOfTheRenameItselfIsAnErrorAndTheOldFileStays)
+{
+    // The name is legal, but the one beside it, seven characters longer, is not.
+    const QString name(252, u'n');
+    put(name, "old");
+    expectError([&] { writeWholeFile(path(name), "new"); }, RuntimeError::DeviceIoError, path(name));
+    EXPECT_EQ(bytesOf(name), "old");
+    EXPECT_EQ(names(), QStringList(name));
+}
+
 TEST_F(WriteWholeFile, AZeroByteInThePathNamesNoOtherFile)
 {
     put("file", "old");
@@ -241,6 +251,8 @@ TEST_F(DeleteFile, AMissingFileIsNoError)
 {
     EXPECT_NO_THROW(deleteFile(path("none")));
     EXPECT_NO_THROW(deleteFile(path("none/below")));
+    put("file", "x");
+    EXPECT_NO_THROW(deleteFile(path("file/below")));
 }
 
 TEST_F(DeleteFile, AFolderIsAnErrorAndStays)

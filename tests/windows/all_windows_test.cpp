@@ -1,4 +1,5 @@
 #include "divisions/create_division_frm.h"
+#include "overview/enviro_frm.h"
 #include "overview/overview_frm.h"
 #include "shell/about_frm.h"
 #include "shell/commands.h"
@@ -28,6 +29,7 @@ const Subject subjects[] = {
     {"frmSplash", [](Editor& editor) -> Form& { return editor.splashFrm(); }},
     {"AboutFrm", [](Editor& editor) -> Form& { return editor.aboutFrm(); }},
     {"OverviewFrm", [](Editor& editor) -> Form& { return editor.overviewFrm(); }},
+    {"EnviroFrm", [](Editor& editor) -> Form& { return editor.enviroFrm(); }},
     {"CreateDivisionFrm", [](Editor& editor) -> Form& { return editor.createDivisionFrm(); }},
 };
 

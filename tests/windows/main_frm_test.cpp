@@ -3,6 +3,7 @@
 #include "divisions/create_division_frm.h"
 #include "overview/overview_frm.h"
 #include "platform/picture_box.h"
+#include "shell/about_frm.h"
 #include "shell/main_menu.h"
 #include "shell/splash_frm.h"
 #include "support/editor_fixture.h"
@@ -29,9 +30,9 @@ protected:
     // A dialog that opens and closes: what makes the main window active again.
     void returnFromDialog()
     {
-        editor().overviewFrm().showForm(&main());
+        editor().aboutFrm().showForm(&main());
         settle();
-        editor().overviewFrm().hideForm();
+        editor().aboutFrm().hideForm();
         settle();
     }
 };

@@ -1,0 +1,13 @@
+#pragma once
+
+#include "overview/overview_texts.h"
+
+namespace torvane {
+
+/// What a control's tool tip says of range and unit, by design name.
+extern const std::array<CaptionRow, 24> overviewTips;
+extern const std::array<CaptionRow, 26> environmentTips;
+/// Titles of the environment dialog's groups.
+extern const std::array<CaptionRow, 3> environmentGroups;
+
+} // namespace torvane
