@@ -19,7 +19,7 @@ inline ScenarioValues loadedScenario(const std::vector<KeyValue>& stored, Langua
     ScenarioValues values;
     for (const LoadedKey& key : overviewKeys()) {
         applyOverviewKey(key.name, valueOf(stored, key.name.toLatin1().constData()), values, language);
-}
+    }
     return values;
 }
 

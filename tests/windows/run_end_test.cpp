@@ -3,6 +3,7 @@
 #include "shell/main_frm.h"
 #include "shell/main_menu.h"
 #include "support/editor_fixture.h"
+#include "support/failing_system.h"
 
 #include <QAction>
 #include <QDir>
@@ -141,6 +142,39 @@ TEST_F(New, WhereTheFolderTakesNoFileTheOldScenarioStays)
     ASSERT_TRUE(QDir().rename(folder + QStringLiteral("-away"), folder));
     EXPECT_EQ(workBytes(QStringLiteral("iniTemp.bmm")), before);
     EXPECT_TRUE(entry("mnuSave")->isEnabled()) << "the old scenario is still under edit";
+}
+
+TEST_F(New, AReadOnlyWorkFolderIsNamedAndTheOldScenarioStays)
+{
+    startPastSplash();
+    newScenario();
+    const QByteArray before = workBytes(QStringLiteral("iniTemp.bmm"));
+    {
+        const ReadOnlyFolder folder(workFile(QString()));
+        choose("mnuNew");
+    }
+    ASSERT_EQ(boxes().size(), 1);
+    EXPECT_THAT(boxes().first().text.toStdString(), ::testing::HasSubstr("ScenarioEditor"));
+    EXPECT_EQ(workBytes(QStringLiteral("iniTemp.bmm")), before);
+    EXPECT_TRUE(QFile::exists(workFile(QStringLiteral("ShipTrack.bmm"))));
+    EXPECT_TRUE(main().isInputEnabled());
+}
+
+TEST_F(New, AFullDiskIsNamedAndNothingIsHalfDone)
+{
+    startPastSplash();
+    const QStringList before = workNames();
+    {
+        const FullDisk disk(0);
+        choose("mnuNew");
+    }
+    ASSERT_EQ(boxes().size(), 1);
+    EXPECT_THAT(boxes().first().text.toStdString(), ::testing::HasSubstr("ScenarioEditor"));
+    EXPECT_EQ(workNames(), before);
+    EXPECT_FALSE(entry("mnuSave")->isEnabled());
+    EXPECT_TRUE(main().isInputEnabled());
+    choose("mnuNew");
+    EXPECT_TRUE(editor().overviewFrm().isVisible()) << "works once there is room";
 }
 
 TEST_F(New, WhereAFileResistsTheMenusAreThoseOfAProgramWithoutAScenario)
