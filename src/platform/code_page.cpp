@@ -44,13 +44,14 @@ QString fromCodePage(QByteArrayView bytes)
 
 QByteArray toCodePage(QStringView text)
 {
-    QByteArray bytes;
-    bytes.reserve(text.size());
+    QByteArray bytes(text.size(), Qt::Uninitialized);
+    char* end = bytes.data();
     for (qsizetype i = 0; i < text.size(); ++i) {
-        bytes.append(byteOf(text[i].unicode()));
+        *end++ = byteOf(text[i].unicode());
         const bool pair = text[i].isHighSurrogate() && i + 1 < text.size() && text[i + 1].isLowSurrogate();
         i += pair ? 1 : 0;
     }
+    bytes.truncate(end - bytes.data());
     return bytes;
 }
 

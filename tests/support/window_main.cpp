@@ -4,6 +4,10 @@
 
 int main(int argc, char** argv)
 {
+    // These tests want no screen, whoever starts them.
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    }
     QApplication application(argc, argv);
     QApplication::setStyle(QStringLiteral("fusion"));
     QApplication::setQuitOnLastWindowClosed(false);
