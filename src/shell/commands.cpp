@@ -1,6 +1,8 @@
 #include "shell/commands.h"
 
+#include <algorithm>
 #include <array>
+#include <iterator>
 
 namespace torvane {
 
@@ -174,9 +176,7 @@ MenuRow shipRow(bool forceA, int division, int ship)
 std::vector<MenuRow> makeRows()
 {
     std::vector<MenuRow> rows;
-    for (const Row& row : fileToCreate) {
-        rows.push_back(fromRow(row));
-    }
+    std::ranges::transform(fileToCreate, std::back_inserter(rows), fromRow);
     for (const DivisionRun& run : divisionRuns) {
         addDivisions(rows, run);
     }
