@@ -14,9 +14,18 @@ function(torvane_stage_game_folder)
         DEPENDS make_working_tables
         COMMENT "Staging ScenarioData.mdb"
         VERBATIM)
-    add_custom_target(game ALL DEPENDS "${tables}")
+    set(catalogue "${TORVANE_GAME_DIR}/ScenarioEditor/ShipDatabase.mdb")
+    set(catalogue_files "${CMAKE_SOURCE_DIR}/data/catalogue")
+    add_custom_command(OUTPUT "${catalogue}"
+        COMMAND ${CMAKE_COMMAND} -E make_directory "${TORVANE_GAME_DIR}/ScenarioEditor"
+        COMMAND make_catalogue "${catalogue_files}" "${catalogue}"
+        DEPENDS make_catalogue
+            "${catalogue_files}/ships.csv" "${catalogue_files}/classes.csv" "${catalogue_files}/gun_ranges.csv"
+        COMMENT "Staging ShipDatabase.mdb"
+        VERBATIM)
+    add_custom_target(game ALL DEPENDS "${tables}" "${catalogue}")
     add_dependencies(game TorvaneScenarioEditor TorvaneScenarioEditor-English)
     install(TARGETS TorvaneScenarioEditor TorvaneScenarioEditor-English RUNTIME DESTINATION .)
-    install(FILES "${tables}" DESTINATION ScenarioEditor)
+    install(FILES "${tables}" "${catalogue}" DESTINATION ScenarioEditor)
     install(DIRECTORY DESTINATION Scenarios)
 endfunction()
