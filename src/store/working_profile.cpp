@@ -6,7 +6,6 @@
 #include <QDir>
 
 #include <algorithm>
-#include <iterator>
 
 namespace torvane {
 
@@ -23,12 +22,17 @@ constexpr QStringView zero{u"0"};
 constexpr int zeroedShipSections = 10;
 
 /// Without the blanks at both ends; tabs stay.
-QString withoutBlanks(const QString& text)
+template <typename View>
+View withoutBlanks(View text)
 {
-    const auto isBlank = [](QChar c) { return c == QLatin1Char(' '); };
-    const auto begin = std::find_if_not(text.begin(), text.end(), isBlank);
-    const auto end = std::find_if_not(text.rbegin(), std::make_reverse_iterator(begin), isBlank).base();
-    return QString(begin, std::distance(begin, end));
+    constexpr typename View::value_type blank{' '};
+    while (!text.isEmpty() && text.front() == blank) {
+        text = text.sliced(1);
+    }
+    while (!text.isEmpty() && text.back() == blank) {
+        text.chop(1);
+    }
+    return text;
 }
 
 /// The kept yards of a position stand before the position itself.
@@ -71,7 +75,15 @@ QString shipSection(int division, int ship)
 QString GetIniKey(ProfileStore& store, const QString& file, QStringView section, QStringView key)
 {
     const QString text = store.read(file, section, key);
-    return text.isEmpty() ? QString(invalidValue) : withoutBlanks(text);
+    return text.isEmpty() ? QString(invalidValue) : withoutBlanks(QStringView(text)).toString();
+}
+
+QByteArrayView GetIniKey(const Profile& profile, QByteArrayView section, QByteArrayView key)
+{
+    const QByteArrayView text = profile.value(section, key).value_or(QByteArrayView());
+    return text.isEmpty()
+               ? QByteArrayView(invalidValue)
+               : withoutBlanks(text.first(std::min<qsizetype>(text.size(), ProfileStore::maximumLength)));
 }
 
 WorkingProfile::WorkingProfile(ProfileStore& store, const QString& workDir)

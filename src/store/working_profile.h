@@ -21,6 +21,8 @@ QString shipSection(int division, int ship);
 
 /// One key of any profile file, trimmed of blanks at both ends, or "INVALID" if it is missing or empty.
 QString GetIniKey(ProfileStore& store, const QString& file, QStringView section, QStringView key);
+/// The same of a parsed profile, in the bytes of its file. The view lives until the profile's next write.
+QByteArrayView GetIniKey(const Profile& profile, QByteArrayView section, QByteArrayView key);
 
 /// The scenario under edit: the profile file `iniTemp.bmm` in the work folder.
 class WorkingProfile
@@ -32,6 +34,9 @@ public:
 
     /// See the free function.
     QString GetIniKey(QStringView section, QStringView key) const;
+
+    /// The whole profile, for a walk over many keys. Stands until the next write.
+    const Profile& parsed() const { return m_store.parsed(m_path); }
 
     /// Writes one key; the platform reports a failure.
     bool write(QStringView section, QStringView key, QStringView value);
