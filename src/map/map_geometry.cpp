@@ -1,0 +1,97 @@
+#include "map/map_geometry.h"
+
+#include "platform/number_text.h"
+#include "platform/runtime_error.h"
+
+#include <QLatin1StringView>
+
+#include <algorithm>
+
+namespace torvane {
+
+namespace {
+
+RuntimeError outOfRange(const QString& what, int index)
+{
+    return {RuntimeError::SubscriptOutOfRange,
+            QStringLiteral("Subscript out of range: %1 %2").arg(what).arg(index)};
+}
+
+const ZoomLevel& levelAt(int zoomIndex)
+{
+    const auto* const level = std::ranges::find(zoomLevels, zoomIndex, &ZoomLevel::zoomIndex);
+    if (level == zoomLevels.end()) {
+        throw outOfRange(QStringLiteral("zoom level"), zoomIndex);
+    }
+    return *level;
+}
+
+/// Positions are whole numbers of 32 bits, more than a single holds, so the quotient is a double.
+double quotient(std::int32_t yards, float scale)
+{
+    return yards / double{scale};
+}
+
+} // namespace
+
+std::optional<std::int16_t> zoomIndexOf(QStringView option)
+{
+    const auto* const level = std::ranges::find_if(
+        zoomLevels, [option](const ZoomLevel& each) { return option == QLatin1StringView(each.option); });
+    return level == zoomLevels.end() ? std::nullopt : std::optional(level->zoomIndex);
+}
+
+std::optional<std::int16_t> gridIndexOf(QStringView option)
+{
+    const auto* const found = std::ranges::find_if(
+        gridOptions, [option](const char* each) { return option == QLatin1StringView(each); });
+    if (found == gridOptions.end()) {
+        return std::nullopt;
+    }
+    return static_cast<std::int16_t>(found - gridOptions.begin());
+}
+
+std::int16_t mapScale(int zoomIndex, bool day)
+{
+    const ZoomLevel& level = levelAt(zoomIndex);
+    return day ? level.dayScale : level.nightScale;
+}
+
+std::int16_t gridSpacing(int gridIndex, int zoomIndex, bool day)
+{
+    const ZoomLevel& level = levelAt(zoomIndex);
+    const GridSpacings& spacings = day ? level.dayGrid : level.nightGrid;
+    switch (gridIndex) {
+    case 1:
+        return spacings.large;
+    case 2:
+        return spacings.medium;
+    case 3:
+        return spacings.small;
+    default:
+        throw outOfRange(QStringLiteral("grid size"), gridIndex);
+    }
+}
+
+Yards positionOf(QStringView x, QStringView z)
+{
+    return {.x = toInt32(numberValue(x)), .z = toInt32(numberValue(z))};
+}
+
+PixelOffset offsetOf(Yards position, float scale)
+{
+    return {.x = toInt32(quotient(position.x, scale)), .z = toInt32(quotient(position.z, scale))};
+}
+
+PixelOffset flooredOffsetOf(Yards position, float scale)
+{
+    return {.x = toInt32(floorOf(quotient(position.x, scale))),
+            .z = toInt32(floorOf(quotient(position.z, scale)))};
+}
+
+Yards positionAt(PixelOffset offset, float scale)
+{
+    return {.x = toInt32(double{scale} * offset.x), .z = toInt32(double{scale} * offset.z)};
+}
+
+} // namespace torvane
