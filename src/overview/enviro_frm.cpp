@@ -12,6 +12,7 @@
 #include "ui_enviro_frm.h"
 
 #include <QIcon>
+#include <QValidator>
 
 #include <array>
 
@@ -20,6 +21,19 @@ namespace torvane {
 namespace {
 
 constexpr QSize pictureSize(96, 64);
+constexpr int percentLength = 12; // room for "INVALID %", as a damaged scenario shows it
+
+/// Takes no key that would bring a number outside 0 to 100. What a scenario holds is shown as it stands.
+class PercentValidator : public QValidator
+{
+public:
+    using QValidator::QValidator;
+    State validate(QString& text, int&) const override
+    {
+        const double percent = boundedValue(text);
+        return percent >= 0 && percent <= 100 ? Acceptable : Invalid;
+    }
+};
 
 } // namespace
 
@@ -31,14 +45,15 @@ EnviroFrm::EnviroFrm(Editor& editor)
 {
     m_ui->setupUi(this);
     layout()->setSizeConstraint(QLayout::SetFixedSize);
-    // Room for "100 %" and nothing that the next reader could not take.
-    m_ui->TxtVis->setMaxLength(7);
-    m_ui->TxtRadar->setMaxLength(7);
+    for (QLineEdit* box : {m_ui->TxtVis, m_ui->TxtRadar}) {
+        box->setMaxLength(percentLength);
+        box->setValidator(new PercentValidator(box));
+    }
     m_ui->imgNight->hide();
     connectClocks();
     connectWeather();
     on(m_ui->cmdOK, &QPushButton::clicked, [this] { save(); });
-    on(m_ui->CmdCancel, &QPushButton::clicked, [this] { leave(); });
+    on(m_ui->CmdCancel, &QPushButton::clicked, [this] { cancel(); });
 }
 
 EnviroFrm::~EnviroFrm() = default;
@@ -318,19 +333,36 @@ void EnviroFrm::loadExisting()
     show(loaded);
 }
 
+// The controls keep a cancelled edit until they are needed: the map shows day or night by the clocks as they
+// were last set. Kept.
+void EnviroFrm::forgetCancelled()
+{
+    if (m_cancelled) {
+        m_cancelled = false;
+        loadExisting();
+    }
+}
+
 void EnviroFrm::onActivate()
 {
+    m_cancelled = false;
     loadExisting();
 }
 
 void EnviroFrm::onCloseBox()
 {
-    leave();
+    cancel();
 }
 
 void EnviroFrm::save()
 {
     writeEnvironmentKeys();
+    leave();
+}
+
+void EnviroFrm::cancel()
+{
+    m_cancelled = true;
     leave();
 }
 

@@ -37,6 +37,8 @@ public:
     void writeEnvironmentKeys();
     /// Fills the controls from the working profile.
     void loadExisting();
+    /// If the last edit was cancelled, fills the controls anew, so that what was cancelled is not written.
+    void forgetCancelled();
 
 protected:
     void onLoad() override;
@@ -64,12 +66,14 @@ private:
     void refuse(const QString& message);
 
     void save();
+    void cancel();
     void leave();
 
     Editor& m_editor;
     std::unique_ptr<Ui::EnviroFrm> m_ui;
     QLabel* const m_gameLength = hiddenControl<QLabel>("TxtGameLen");
     ListCombo* const m_moon;
+    bool m_cancelled = false; ///< the controls hold an edit that was cancelled
 };
 
 } // namespace torvane

@@ -16,6 +16,7 @@
 #include <QAction>
 #include <QKeyEvent>
 
+#include <algorithm>
 #include <array>
 
 namespace torvane {
@@ -52,6 +53,11 @@ OverviewFrm::OverviewFrm(Editor& editor)
 
 OverviewFrm::~OverviewFrm() = default;
 
+QString OverviewFrm::title() const
+{
+    return m_ui->TxtTitle->text();
+}
+
 void OverviewFrm::onLoad()
 {
     if (valueOf(m_editor.mainFrm().chkGermanVersion) == 1) {
@@ -61,7 +67,9 @@ void OverviewFrm::onLoad()
     }
     fillLists();
     show(scenarioDefaults(m_editor.language()).overview);
-    showMission(false);
+    if (const Mission* first = mission()) {
+        showBrief(*first, false);
+    }
 }
 
 void OverviewFrm::setEnglishCaptions()
@@ -119,64 +127,6 @@ void OverviewFrm::colorForces()
     }
 }
 
-void OverviewFrm::connectSteppers()
-{
-    const auto stepper = [this](StepButton* button, QLineEdit* box, auto rule) {
-        on(button, &StepButton::clicked, [box, rule] { box->setText(rule(box->text())); });
-    };
-    const auto up = [](const QString& text) { return steppedHeading(text, 1); };
-    const auto down = [](const QString& text) { return steppedHeading(text, -1); };
-    stepper(m_ui->Command9, m_ui->txtDisengageA, down);
-    stepper(m_ui->Command10, m_ui->txtDisengageA, up);
-    stepper(m_ui->Command13, m_ui->txtDisengageB, down);
-    // Of the four this one alone keeps a fraction that was typed. Kept.
-    stepper(m_ui->Command14, m_ui->txtDisengageB,
-            [](const QString& text) { return steppedHeadingInSinglePrecision(text); });
-
-    const struct
-    {
-        StepButton* button;
-        QLineEdit* box;
-        float change;
-    } modifiers[] = {
-        {m_ui->Command17, m_ui->txtVPmodsA, -1.00F}, {m_ui->Command18, m_ui->txtVPmodsA, 1.00F},
-        {m_ui->Command19, m_ui->txtVPmodsA, -0.01F}, {m_ui->Command20, m_ui->txtVPmodsA, 0.01F},
-        {m_ui->Command21, m_ui->txtVPmodsB, -1.00F}, {m_ui->Command22, m_ui->txtVPmodsB, 1.00F},
-        {m_ui->Command15, m_ui->txtVPmodsB, -0.01F}, {m_ui->Command16, m_ui->txtVPmodsB, 0.01F},
-    };
-    for (const auto& [button, box, change] : modifiers) {
-        stepper(button, box,
-                [change = change](const QString& text) { return steppedVictoryModifier(text, change); });
-    }
-}
-
-void OverviewFrm::connectTyping()
-{
-    for (QLineEdit* box : {m_ui->txtDisengageA, m_ui->txtDisengageB}) {
-        on(box, &QLineEdit::textChanged,
-           [this, box] { check(box, checkHeading, OverviewMessage::HeadingRange); });
-    }
-    for (QLineEdit* box : {m_ui->txtVPmodsA, m_ui->txtVPmodsB}) {
-        on(box, &QLineEdit::textChanged,
-           [this, box] { check(box, checkVictoryModifier, OverviewMessage::ModifierRange); });
-    }
-    on(m_ui->TxtTitle, &QLineEdit::textChanged, [this] { titleChanged(); });
-    on(m_ui->RichTxtDescrip, &QPlainTextEdit::textChanged, [this] { descriptionChanged(); });
-}
-
-void OverviewFrm::check(QLineEdit* box, TypedCheck (*rule)(QStringView), OverviewMessage message)
-{
-    const TypedCheck typed = rule(box->text());
-    if (typed.accepted) {
-        return;
-    }
-    m_editor.services().messageBoxes.show(
-        {.text = overviewMessage(message, m_editor.language()),
-         .title = overviewMessage(OverviewMessage::OutOfRangeTitle, m_editor.language()),
-         .icon = MessageBox::Icon::Information});
-    box->setText(typed.text);
-}
-
 void OverviewFrm::titleChanged()
 {
     const LockedText rule = lockedTitle(m_ui->TxtTitle->text());
@@ -184,7 +134,9 @@ void OverviewFrm::titleChanged()
         return;
     }
     if (m_ui->TxtTitle->text() != rule.text) {
+        const int cursor = m_ui->TxtTitle->cursorPosition();
         m_ui->TxtTitle->setText(rule.text);
+        m_ui->TxtTitle->setCursorPosition(cursor);
     }
     m_ui->TxtTitle->setReadOnly(true);
 }
@@ -195,12 +147,21 @@ void OverviewFrm::descriptionChanged()
     const QString line = text.contains(QLatin1Char('\n')) ? oneParagraph(text) : text;
     const LockedText rule = lockedDescription(line);
     if (rule.text != text) {
-        m_ui->RichTxtDescrip->setPlainText(rule.text);
-        m_ui->RichTxtDescrip->moveCursor(QTextCursor::End);
+        showDescription(rule.text);
     }
     if (rule.locked) {
         m_ui->RichTxtDescrip->setReadOnly(true);
     }
+}
+
+// Leaves the cursor where the author is writing, as far as the text reaches.
+void OverviewFrm::showDescription(const QString& text)
+{
+    QTextCursor cursor = m_ui->RichTxtDescrip->textCursor();
+    const int position = cursor.position();
+    m_ui->RichTxtDescrip->setPlainText(text);
+    cursor.setPosition(std::min(position, static_cast<int>(text.size())));
+    m_ui->RichTxtDescrip->setTextCursor(cursor);
 }
 
 // A box at its limit takes keys again with the next key or pointer event over it.
@@ -232,7 +193,7 @@ bool OverviewFrm::eventFilter(QObject* watched, QEvent* event)
         if (key == Qt::Key_Return || key == Qt::Key_Enter) {
             // Enter makes no new line: the description stays one paragraph.
             runHandler([this] {
-                m_ui->RichTxtDescrip->setPlainText(oneParagraph(m_ui->RichTxtDescrip->toPlainText()));
+                showDescription(oneParagraph(m_ui->RichTxtDescrip->toPlainText()));
                 m_ui->cmbMission->setFocus();
             });
             return true;
@@ -339,16 +300,19 @@ const Mission* OverviewFrm::mission() const
 
 void OverviewFrm::showMission(bool swapped)
 {
-    const Mission* chosen = mission();
-    if (!chosen) {
-        return;
+    if (const Mission* chosen = mission()) {
+        showBrief(*chosen, swapped);
+        setValue(m_editor.mainFrm().chkBombardment, chosen->needsTargetArea ? 1 : 0);
     }
-    const MissionBrief brief = missionBrief(*chosen, m_editor.language(), swapped);
+}
+
+void OverviewFrm::showBrief(const Mission& chosen, bool swapped)
+{
+    const MissionBrief brief = missionBrief(chosen, m_editor.language(), swapped);
     m_ui->lblMissionA->setText(brief.firstRole);
     m_ui->lblMissionB->setText(brief.secondRole);
     m_ui->RTxtBBlueBrief->setPlainText(brief.objectiveA);
     m_ui->RTxtBRedBrief->setPlainText(brief.objectiveB);
-    setValue(m_editor.mainFrm().chkBombardment, chosen->needsTargetArea ? 1 : 0);
 }
 
 void OverviewFrm::openEnvironment()
@@ -371,6 +335,7 @@ void OverviewFrm::save()
             menu.setEnabled(QLatin1StringView(entry), true);
         }
     }
+    m_editor.enviroFrm().forgetCancelled();
     WriteINI();
 }
 

@@ -36,6 +36,8 @@ public:
     QLabel* const lblForceA = hiddenControl<QLabel>("lblForceA");
     QLabel* const lblForceB = hiddenControl<QLabel>("lblForceB");
 
+    /// The title as its text box shows it: the name of the scenario's file.
+    QString title() const;
     /// Writes all 50 keys of the scenario section, from this dialog's controls and the environment dialog's.
     void WriteINI();
     /// Fills the controls of both dialogs from the working profile.
@@ -62,10 +64,12 @@ private:
     void applyScenarioDefaults();
     void setForces(bool swapped);
     void showMission(bool swapped);
+    void showBrief(const Mission& chosen, bool swapped);
     const Mission* mission() const;
 
     void titleChanged();
     void descriptionChanged();
+    void showDescription(const QString& text);
     void check(QLineEdit* box, TypedCheck (*rule)(QStringView), OverviewMessage message);
     void unlock(QObject* box);
 

@@ -85,6 +85,12 @@ QString storedRadar(const QString& text, Language)
     return storedNumber(text.left(3));
 }
 
+QString storedWindSpeed(const QString& text, Language)
+{
+    const QString speed = text.trimmed();
+    return speed.isEmpty() ? u"1"_s : speed;
+}
+
 QString storedLength(const QString& caption, Language)
 {
     return caption.left(4);

@@ -22,6 +22,8 @@ QString storedRain(const QString& caption, Language language);
 QString storedVisibility(const QString& text, Language language);
 /// The number of the first three characters.
 QString storedRadar(const QString& text, Language language);
+/// The trimmed text; an empty box counts as 1 knot.
+QString storedWindSpeed(const QString& text, Language language);
 /// The game length caption's first four characters, its first one, and its last two in minutes.
 QString storedLength(const QString& caption, Language language);
 QString storedLengthHour(const QString& caption, Language language);

@@ -83,7 +83,7 @@ constexpr std::array<ScenarioKey, 50> scenarioKeys{{
     {u"LOCATION", inBoth("North Atlantic"), Source::Environment, coded<&E::location, storedLocation>},
     {u"VISIBILITY", inBoth("100"), Source::Environment, coded<&E::visibility, storedVisibility>},
     {u"RADARCONDITIONS", inBoth("100"), Source::Environment, coded<&E::radar, storedRadar>},
-    {u"WIND_SPEED", inBoth("1"), Source::Environment, trimmed<&E::windSpeed>},
+    {u"WIND_SPEED", inBoth("1"), Source::Environment, coded<&E::windSpeed, storedWindSpeed>},
     {u"WIND_DIRECTION", inBoth("360"), Source::Environment, trimmed<&E::windDirection>},
     {u"VP_MODS", inBoth("None"), Source::Fixed, nullptr},
     {u"MOONPHASE", inBoth("None"), Source::FixedUnlessEnvironment, trimmed<&E::moon>},

@@ -25,6 +25,9 @@ Form::~Form()
 void Form::load()
 {
     m_formStack.runHandler([this] { onLoad(); });
+    // Once more, so that the window looks at an event before what its controls have put in front meanwhile:
+    // scroll areas keep the mouse events of their viewport to themselves.
+    watch(this);
 }
 
 void Form::showForm(Form* opener)

@@ -13,13 +13,14 @@ class StepButton : public QPushButton
 public:
     explicit StepButton(QWidget* parent = nullptr);
 
+    QSize sizeHint() const override;
+
 Q_SIGNALS:
     void plusPressed();
     void minusPressed();
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
-    QSize sizeHint() const override;
 };
 
 } // namespace torvane

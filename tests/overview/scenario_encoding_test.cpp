@@ -241,6 +241,8 @@ TEST(StoredTexts, AreTrimmed)
     EXPECT_EQ(storedOverview(&OverviewValues::modifierB, u" 0.5 "_s, "RED_VICTORY_MODS", Language::English),
               u"0.5"_s);
     EXPECT_EQ(stored(&EnvironmentValues::windSpeed, u" 12 "_s, "WIND_SPEED"), u"12"_s);
+    EXPECT_EQ(stored(&EnvironmentValues::windSpeed, QString(), "WIND_SPEED"), u"1"_s)
+        << "no wind counts as 1";
     EXPECT_EQ(stored(&EnvironmentValues::windDirection, u" 45 "_s, "WIND_DIRECTION"), u"45"_s);
     EXPECT_EQ(stored(&EnvironmentValues::seaState, u" 8 "_s, "SEASTATE"), u"8"_s);
     EXPECT_EQ(stored(&EnvironmentValues::year, u"1943"_s, "YEAR"), u"1943"_s);

@@ -1,0 +1,171 @@
+#include "platform/list_combo.h"
+#include "platform/step_button.h"
+#include "support/input.h"
+#include "support/printers.h"
+
+#include <QSignalSpy>
+#include <QTest>
+
+#include <gmock/gmock.h>
+
+namespace torvane::testing {
+namespace {
+
+class ListOfShips : public ::testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        list.addItems({QStringLiteral("Hood"), QStringLiteral("Bismarck"), QStringLiteral("hood")});
+        list.show();
+    }
+
+    ListCombo list;
+};
+
+TEST_F(ListOfShips, ShowsTheEntryOfAText)
+{
+    list.showEntry(QStringLiteral("Bismarck"));
+    EXPECT_EQ(list.currentIndex(), 1);
+    EXPECT_EQ(list.shownText(), QStringLiteral("Bismarck"));
+    list.showEntry(QStringLiteral("hood"));
+    EXPECT_EQ(list.currentIndex(), 2) << "capitals count";
+}
+
+TEST_F(ListOfShips, AnEntryThatThereIsNotChangesNothing)
+{
+    list.showEntry(QStringLiteral("Bismarck"));
+    for (const char* text : {"", "Bis", "Bismarck ", "*", "Tirpitz"}) {
+        list.showEntry(QLatin1StringView(text));
+        EXPECT_EQ(list.shownText(), QStringLiteral("Bismarck")) << text;
+    }
+}
+
+TEST_F(ListOfShips, ATextOutsideTheListIsShownWithoutBecomingAnEntry)
+{
+    list.showText(QStringLiteral("Tirpitz"));
+    EXPECT_EQ(list.shownText(), QStringLiteral("Tirpitz"));
+    EXPECT_EQ(list.currentIndex(), -1);
+    EXPECT_EQ(list.count(), 3);
+    EXPECT_FALSE(list.isEditable());
+}
+
+TEST_F(ListOfShips, AndLooksLikeAnyOtherText)
+{
+    list.showText(QStringLiteral("Bismarck"));
+    const QImage entry = list.grab().toImage();
+    list.clear();
+    list.addItem(QStringLiteral("Hood"));
+    list.resize(entry.size() / entry.devicePixelRatio());
+    list.showText(QStringLiteral("Bismarck"));
+    EXPECT_EQ(list.currentIndex(), -1);
+    EXPECT_EQ(list.grab().toImage(), entry);
+}
+
+TEST_F(ListOfShips, ATextThatIsAnEntryIsThatEntry)
+{
+    list.showText(QStringLiteral("Tirpitz"));
+    list.showText(QStringLiteral("Hood"));
+    EXPECT_EQ(list.currentIndex(), 0);
+    EXPECT_EQ(list.shownText(), QStringLiteral("Hood"));
+}
+
+TEST_F(ListOfShips, OnceAnEntryIsPickedTheOtherTextIsForgotten)
+{
+    list.showText(QStringLiteral("Tirpitz"));
+    press(&list, Qt::Key_Down);
+    EXPECT_EQ(list.shownText(), QStringLiteral("Hood"));
+}
+
+TEST_F(ListOfShips, ShowingIsNoPick)
+{
+    const QSignalSpy picked(&list, &QComboBox::activated);
+    list.showEntry(QStringLiteral("Bismarck"));
+    list.showText(QStringLiteral("Tirpitz"));
+    EXPECT_TRUE(picked.isEmpty());
+    press(&list, Qt::Key_End);
+    EXPECT_EQ(picked.size(), 1);
+}
+
+TEST_F(ListOfShips, AnEmptyListShowsNothing)
+{
+    list.clear();
+    EXPECT_EQ(list.shownText(), QString());
+}
+
+class Stepper : public ::testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        button.setText(QStringLiteral("▶"));
+        button.show();
+    }
+
+    StepButton button;
+    QSignalSpy clicked{&button, &QPushButton::clicked};
+    QSignalSpy plus{&button, &StepButton::plusPressed};
+    QSignalSpy minus{&button, &StepButton::minusPressed};
+};
+
+TEST_F(Stepper, AClickActsOnce)
+{
+    click(&button);
+    EXPECT_EQ(clicked.size(), 1);
+    EXPECT_TRUE(plus.isEmpty());
+    EXPECT_TRUE(minus.isEmpty());
+}
+
+TEST_F(Stepper, HeldItRepeatsUntilItIsLetGo)
+{
+    QTest::mousePress(&button, Qt::LeftButton);
+    EXPECT_TRUE(waitUntil([&] { return clicked.size() >= 3; }));
+    QTest::mouseRelease(&button, Qt::LeftButton);
+    const auto count = clicked.size();
+    QTest::qWait(250);
+    EXPECT_EQ(clicked.size(), count);
+}
+
+TEST_F(Stepper, TheSpaceBarIsAClick)
+{
+    press(&button, Qt::Key_Space);
+    EXPECT_EQ(clicked.size(), 1);
+}
+
+TEST_F(Stepper, PlusAndMinusAreToldApartFromAClick)
+{
+    press(&button, Qt::Key_Plus);
+    press(&button, Qt::Key_Plus, Qt::ShiftModifier);
+    press(&button, Qt::Key_Plus, Qt::KeypadModifier);
+    press(&button, Qt::Key_Minus);
+    EXPECT_EQ(plus.size(), 3);
+    EXPECT_EQ(minus.size(), 1);
+    EXPECT_TRUE(clicked.isEmpty());
+}
+
+TEST_F(Stepper, EnterIsLeftToTheWindowsDefaultButton)
+{
+    press(&button, Qt::Key_Return);
+    EXPECT_TRUE(clicked.isEmpty());
+    EXPECT_FALSE(button.autoDefault());
+}
+
+TEST_F(Stepper, DisabledItTakesNothing)
+{
+    button.setEnabled(false);
+    click(&button);
+    press(&button, Qt::Key_Plus);
+    EXPECT_TRUE(clicked.isEmpty());
+    EXPECT_TRUE(plus.isEmpty());
+}
+
+TEST_F(Stepper, IsSmallButHoldsItsText)
+{
+    EXPECT_GE(button.sizeHint().width(), 26);
+    EXPECT_LT(button.sizeHint().width(), QPushButton(button.text()).sizeHint().width());
+    button.setText(QStringLiteral("A long word on it"));
+    EXPECT_GT(button.sizeHint().width(), button.fontMetrics().horizontalAdvance(button.text()));
+}
+
+} // namespace
+} // namespace torvane::testing
