@@ -242,12 +242,17 @@ void ProfileStore::onWriteFailure(FailureReport report)
 QString ProfileStore::read(const QString& file, QStringView section, QStringView key,
                            const QString& defaultValue)
 {
-    const Profile& profile = d->lookedAt(file).profile;
+    const Profile& profile = parsed(file);
     const auto value = profile.value(toCodePage(section), toCodePage(key));
     if (!value || value->isEmpty()) {
         return defaultValue.left(maximumLength);
     }
     return fromCodePage(value->first(std::min<qsizetype>(value->size(), maximumLength)));
+}
+
+const Profile& ProfileStore::parsed(const QString& file)
+{
+    return d->lookedAt(file).profile;
 }
 
 bool ProfileStore::write(const QString& file, QStringView section, QStringView key, QStringView value)

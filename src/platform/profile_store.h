@@ -36,6 +36,10 @@ public:
     QString read(const QString& file, QStringView section, QStringView key,
                  const QString& defaultValue = QString());
 
+    /// The whole file as `read` would find it, empty if it is missing, for a walk over many keys. Stands
+    /// until the next call.
+    const Profile& parsed(const QString& file);
+
     /// Writes one key, making file and section as needed. False if the file could not be written at once
     /// (only without a batch). Throws InvalidProcedureCall for a name that no reader would find again.
     bool write(const QString& file, QStringView section, QStringView key, QStringView value);

@@ -57,6 +57,9 @@ void Editor::setBasePath(const QString& basePath)
     m_paths = pathsBelow(basePath);
     m_workingProfile.emplace(m_profiles, m_paths.workDir);
     m_scratchFiles.emplace(m_profiles, m_paths.workDir);
+    m_shipCatalogue.emplace(m_dataControls);
+    m_shipRecords.emplace(m_profiles, *m_workingProfile, *m_scratchFiles, *m_shipCatalogue);
+    m_divisionRecords.emplace(m_profiles, *m_workingProfile, *m_scratchFiles, *m_shipRecords);
 }
 
 void Editor::report(const RuntimeError& error)

@@ -1,13 +1,16 @@
 #pragma once
 
+#include "divisions/division_records.h"
 #include "platform/folder_lock.h"
 #include "platform/form_stack.h"
 #include "platform/language.h"
 #include "platform/profile_store.h"
 #include "platform/services.h"
 #include "shell/lifecycle.h"
+#include "ship_selection/ship_record.h"
 #include "store/data_controls.h"
 #include "store/scratch_files.h"
+#include "store/ship_catalogue.h"
 #include "store/working_profile.h"
 
 #include <QString>
@@ -66,6 +69,9 @@ public:
     /// The store; there from `setBasePath` on.
     WorkingProfile& workingProfile() { return *m_workingProfile; }
     ScratchFiles& scratchFiles() { return *m_scratchFiles; }
+    ShipCatalogue& shipCatalogue() { return *m_shipCatalogue; }
+    ShipRecords& shipRecords() { return *m_shipRecords; }
+    DivisionRecords& divisionRecords() { return *m_divisionRecords; }
 
     MainFrm& mainFrm();
     frmSplash& splashFrm();
@@ -93,6 +99,9 @@ private:
     std::optional<WorkingProfile> m_workingProfile;
     std::optional<ScratchFiles> m_scratchFiles;
     DataControls m_dataControls;
+    std::optional<ShipCatalogue> m_shipCatalogue;
+    std::optional<ShipRecords> m_shipRecords;
+    std::optional<DivisionRecords> m_divisionRecords;
 
     std::unique_ptr<CreateDivisionFrm> m_createDivisionFrm;
     std::unique_ptr<OverviewFrm> m_overviewFrm;

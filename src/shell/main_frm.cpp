@@ -5,11 +5,13 @@
 #include "platform/number_text.h"
 #include "platform/picture_box.h"
 #include "platform/pointer.h"
+#include "scenario_file/save_scenario.h"
 #include "shell/about_frm.h"
 #include "shell/captions.h"
 #include "shell/editor.h"
 #include "shell/main_menu.h"
 #include "shell/new_scenario.h"
+#include "shell/save_commands.h"
 #include "shell/splash_frm.h"
 #include "store/working_tables.h"
 
@@ -44,9 +46,7 @@ constexpr double captionPixels = 5.5;    // width of a character of a caption
 } // namespace
 
 MainFrm::MainFrm(Editor& editor)
-    : Form(editor.forms(), QStringLiteral("MainFrm"), Qt::Window),
-      m_editor(editor),
-      m_targetDim(initialTargetDim)
+    : Form(editor.forms(), QStringLiteral("MainFrm"), Qt::Window), m_editor(editor)
 {
     auto* bar = new QMenuBar(this);
     bar->setObjectName(QStringLiteral("menuBar"));
@@ -101,6 +101,7 @@ void MainFrm::makeSurface()
     m_distance->setBackgroundRole(QPalette::Midlight);
     m_distance->setAlignment(Qt::AlignCenter);
     makeDebugReadOuts(surface);
+    m_progress.emplace(surface);
 }
 
 // Read-outs for development; shown by the debug mode alone.
@@ -139,6 +140,8 @@ void MainFrm::connectCommands()
         on(m_menu->action(QLatin1StringView(entry)), &QAction::triggered, handler);
     };
     command("mnuNew", [this] { newScenario(m_editor); });
+    command("mnuSave", [this] { saveScenario(m_editor); });
+    command("mnuSaveAs", [this] { saveScenarioAs(m_editor); });
     command("mnuOverView", [this] { showOverview(); });
     command("mnuExit", [this] { unload(); });
     command("mnuHotText", [this] { toggleHelpTags(); });
@@ -289,6 +292,26 @@ void MainFrm::redrawMap()
 {
     m_menu->hideEditShipMenus();
     m_pictureMain->clear();
+    if (!m_targetAreaInUse) {
+        placeTargetArea(0, 0);
+    }
+}
+
+void MainFrm::placeTargetArea(int x, int z)
+{
+    m_target.x = x;
+    m_target.z = z;
+}
+
+void MainFrm::saveINIfile(const QString& path)
+{
+    torvane::saveINIfile(path, m_editor.workingProfile(), m_target, m_editor.overviewFrm().lblForceA->text(),
+                         [this] { m_progress->advanceProgress(); });
+}
+
+void MainFrm::showProgress(const QString& text)
+{
+    m_progress->show(text, m_pictureMain->geometry());
 }
 
 void MainFrm::toggleHelpTags()

@@ -1,10 +1,13 @@
 #pragma once
 
 #include "platform/form.h"
+#include "shell/progress_panel.h"
+#include "store/target_area.h"
 
 #include <QString>
 
 #include <array>
+#include <optional>
 #include <vector>
 
 class QScrollBar;
@@ -52,15 +55,24 @@ public:
     /// Opens a file of the platform, such as the game's program, in a folder.
     bool Execute_Program(const QString& file, const QString& parameters, const QString& directory);
 
-    /// Repaints the map.
+    /// Repaints the map. Without a mission that has a target area, the area goes back to 0.
     void redrawMap();
+
+    /// Writes the scenario file. Throws RuntimeError and leaves a file of that name as it was.
+    void saveINIfile(const QString& path);
+    /// Shows over the map that work is under way.
+    void showProgress(const QString& text);
+    ProgressPanel& progress() { return *m_progress; }
 
     /// The text that names the division whose place is asked for.
     const QString& repositionKey() const { return m_repositionKey; }
     bool separationRingsPending() const { return m_separationRingsPending; }
     bool targetAreaInUse() const { return m_targetAreaInUse; }
     bool helpTagsOn() const { return m_helpTagsOn; }
-    int targetDim() const { return m_targetDim; }
+    const TargetArea& targetArea() const { return m_target; }
+    int targetDim() const { return m_target.dim; }
+    /// Where the map has the target area's centre, in yards.
+    void placeTargetArea(int x, int z);
 
 protected:
     void onLoad() override;
@@ -99,12 +111,13 @@ private:
     QLabel* m_distance = nullptr;
     std::array<QLabel*, 9> m_helpTags{};
     std::vector<PictureBox*> m_debugReadOuts;
+    std::optional<ProgressPanel> m_progress;
 
     QString m_repositionKey;
     bool m_separationRingsPending = false;
     bool m_targetAreaInUse = false;
     bool m_helpTagsOn = true;
-    int m_targetDim;
+    TargetArea m_target;
     int m_lastHScrollValue = 0;
     int m_lastVScrollValue = 0;
     QPoint m_viewCentre;

@@ -116,6 +116,21 @@ void MainMenu::addRepositionMenuEntry(const QString& /*name*/, const QString& si
     }
 }
 
+void MainMenu::enableForceMenus(int blueDivisions, int redDivisions)
+{
+    for (const bool forceA : sides) {
+        const int count = forceA ? blueDivisions : redDivisions;
+        if (count < 1 || count > divisionsPerSide) {
+            continue;
+        }
+        setVisible(QLatin1StringView(repositionRow(forceA, count).entry), true);
+        setVisible(editEntryName(forceA, count), true);
+        if (!forceA && count == 1) {
+            setVisible(QStringLiteral("mnuSeperator3"), true);
+        }
+    }
+}
+
 void MainMenu::hideEditShipMenus()
 {
     for (const bool forceA : sides) {

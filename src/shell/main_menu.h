@@ -35,6 +35,10 @@ public:
     /// number within its side. `name` is not used. Anything but "Blue" counts for Force B.
     void addRepositionMenuEntry(const QString& name, const QString& side);
 
+    /// Shows the Edit and Reposition entries of the newest division of each side. What was shown stays shown;
+    /// a count of 0 or beyond 6 shows nothing.
+    void enableForceMenus(int blueDivisions, int redDivisions);
+
     /// Before each plot: greys the Edit Ship menus and hides their entries of divisions 1 to 4, but for the
     /// first ships. Divisions 5 and 6 stay as they are.
     void hideEditShipMenus();

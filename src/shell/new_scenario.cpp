@@ -47,6 +47,7 @@ static void clearStore(Editor& editor)
     editor.mainFrm().killFiles();
     const ScratchFiles& files = editor.scratchFiles();
     files.write(files.shipTrack(), {QString()});
+    editor.divisionRecords().recount();
 }
 
 void newScenario(Editor& editor)

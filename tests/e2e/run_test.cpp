@@ -48,7 +48,10 @@ protected:
         }
     }
 
-    QStringList atRest() const { return {QStringLiteral("ScenarioData.mdb")}; }
+    QStringList atRest() const
+    {
+        return {QStringLiteral("ScenarioData.mdb"), QStringLiteral("ShipDatabase.mdb")};
+    }
 
     Desktop desktop;
     GameFolder folder;

@@ -169,6 +169,42 @@ TEST_F(Menus, ASeventhDivisionHasNoEntryAndDoesNoHarm)
     EXPECT_EQ(menu.blueDivisionCount(), 7);
 }
 
+TEST_F(Menus, TheNewestDivisionOfEachSideShowsItsPairOfEntries)
+{
+    const std::array<std::array<const char*, 2>, 6> forceA{{{"mnuDiv1", "mnuForceA1"},
+                                                            {"mnuDiv2", "mnuForceA2"},
+                                                            {"mnuDiv3", "mnuForceA3"},
+                                                            {"mnuDiv4", "mnuForceA4"},
+                                                            {"mnuDiv9", "mnuForceA5"},
+                                                            {"mnuDiv10", "mnuForceA6"}}};
+    const std::array<std::array<const char*, 2>, 6> forceB{{{"mnuDiv5", "mnuForceB1"},
+                                                            {"mnuDiv6", "mnuForceB2"},
+                                                            {"mnuDiv7", "mnuForceB3"},
+                                                            {"mnuDiv8", "mnuForceB4"},
+                                                            {"mnuDiv11", "mnuForceB5"},
+                                                            {"mnuDiv12", "mnuForceB6"}}};
+    for (int count = 1; count <= 6; ++count) {
+        for (const auto& entries : {forceA, forceB}) {
+            for (const auto& pair : entries) {
+                at(pair[0]).setVisible(false);
+                at(pair[1]).setVisible(false);
+            }
+        }
+        at("mnuSeperator3").setVisible(false);
+        const auto index = static_cast<std::size_t>(count - 1);
+        menu.enableForceMenus(count, 0);
+        EXPECT_TRUE(at(forceA.at(index)[0]).isVisible()) << count;
+        EXPECT_TRUE(at(forceA.at(index)[1]).isVisible()) << count;
+        EXPECT_FALSE(at(forceB.at(index)[0]).isVisible()) << count;
+        EXPECT_FALSE(at("mnuSeperator3").isVisible());
+        menu.enableForceMenus(0, count);
+        EXPECT_TRUE(at(forceB.at(index)[0]).isVisible()) << count;
+        EXPECT_TRUE(at(forceB.at(index)[1]).isVisible()) << count;
+        EXPECT_EQ(at("mnuSeperator3").isVisible(), count == 1);
+    }
+    menu.enableForceMenus(7, 7); // refused elsewhere; no harm here
+}
+
 TEST_F(Menus, APlotHidesTheShipsOfDivisionsOneToFourButTheFirst)
 {
     for (const MenuRow& row : menuRows()) {
