@@ -74,8 +74,9 @@ constexpr std::array<FileKey, fileKeyCount> fileKeys = allKeys();
 
 std::span<const FileKey> keysOf(FileSection section)
 {
-    const auto keys = std::ranges::equal_range(fileKeys, section, {}, &FileKey::section);
-    return {keys.begin(), keys.end()};
+    const auto* const first = std::ranges::lower_bound(fileKeys, section, {}, &FileKey::section);
+    const auto* const last = std::ranges::upper_bound(fileKeys, section, {}, &FileKey::section);
+    return {first, last};
 }
 
 QString keptYardsKey(QStringView positionKey)

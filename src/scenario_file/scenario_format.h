@@ -29,7 +29,7 @@ enum class Writing {
 enum class Reading {
     Copy,
     Version,             ///< the number of the format, whatever the file holds
-    AirControlCode,      ///< the names of older files become codes, a missing one the first code
+    AirControlCode,      ///< the four names become codes, a missing one the first code
     SignTurned,          ///< number times -1
     YardsSpacing,        ///< the metres of the spacing table become its yards, other texts stay
     ZeroIfMissing,       ///< "INVALID" becomes "0"

@@ -28,9 +28,9 @@ struct Finding
 /// end the check there. Throws Overflow for a division count beyond 16 bits.
 std::vector<Finding> validateScenario(const WorkingProfile& profile, const TargetArea& target);
 
-/// Whether a file named after the title, trimmed, lies in the scenario folder, in sight, and on every system
-/// of the trade: no separator or control character, no leading dot, no name of a device, not empty, not too
-/// long.
+/// Whether a file named after the title, trimmed, lies in the scenario folder, in sight, and can be copied to
+/// other systems' folders: no separator or control character, no leading dot, no name of a device, not empty,
+/// not too long.
 bool canNameScenarioFile(QStringView title);
 
 } // namespace torvane

@@ -54,9 +54,12 @@ void ProgressPanel::advanceProgress()
 void ProgressPanel::fillProgress()
 {
     if (m_prgbarLoad->value() < m_prgbarLoad->maximum() - progressStep) {
+        // The work is done: painting each step would take longer than it did.
+        m_prgbarLoad->setUpdatesEnabled(false);
         while (m_prgbarLoad->value() < m_prgbarLoad->maximum()) {
             advanceProgress();
         }
+        m_prgbarLoad->setUpdatesEnabled(true);
     }
 }
 

@@ -19,11 +19,12 @@ public:
     Unprivileged() : m_user(::geteuid())
     {
         constexpr uid_t nobody = 65534;
-        m_changed = m_user == 0 && ::seteuid(nobody) == 0;
+        // Both ids, as what a user may do is asked of one here, of the other there.
+        m_changed = m_user == 0 && ::setresuid(nobody, nobody, m_user) == 0;
     }
     ~Unprivileged()
     {
-        if (m_changed && ::seteuid(m_user) != 0) {
+        if (m_changed && ::setresuid(m_user, m_user, m_user) != 0) {
             std::terminate();
         }
     }
