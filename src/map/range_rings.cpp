@@ -3,13 +3,15 @@
 #include "platform/code_page.h"
 #include "platform/number_text.h"
 #include "platform/runtime_error.h"
-#include "store/record_source.h"
+#include "store/ship_catalogue.h"
 #include "store/working_profile.h"
 
 #include <QLatin1StringView>
 
 #include <algorithm>
+#include <limits>
 #include <optional>
+#include <utility>
 
 namespace torvane {
 
@@ -41,6 +43,14 @@ QString trainingKey(const QString& shortName, const QString& shipClass)
     return shortName == sharedName ? shortName + u'\n' + shipClass : shortName;
 }
 
+/// A row of the view further down. Where 32 bits end, the last row: both are far out of sight.
+std::int32_t belowBy(std::int32_t row, std::int32_t pixels)
+{
+    using Limits = std::numeric_limits<std::int32_t>;
+    const std::int64_t sum = std::int64_t{row} + pixels;
+    return static_cast<std::int32_t>(std::clamp<std::int64_t>(sum, Limits::min(), Limits::max()));
+}
+
 QString textAt(const Profile& profile, const QByteArray& section, QByteArrayView key)
 {
     return fromCodePage(GetIniKey(profile, section, key));
@@ -64,9 +74,10 @@ std::int32_t rangeOf(const RangeTable& table, int type, int ringClass)
 {
     const auto isIn = [](int index) { return index >= 1 && index <= 6; };
     if (!isIn(type) || !isIn(ringClass)) {
-        throw RuntimeError(
-            RuntimeError::SubscriptOutOfRange,
-            QStringLiteral("Subscript out of range: range of type %1 against class %2").arg(type).arg(ringClass));
+        throw RuntimeError(RuntimeError::SubscriptOutOfRange,
+                           QStringLiteral("Subscript out of range: range of type %1 against class %2")
+                               .arg(type)
+                               .arg(ringClass));
     }
     return table.at(static_cast<std::size_t>(ringClass - 1)).at(static_cast<std::size_t>(type - 1));
 }
@@ -168,6 +179,59 @@ std::vector<Ring> radarRings(QStringView type, QStringView radarType, const Ring
         }
     }
     return rings;
+}
+
+RangeRings::RangeRings(RingSettings settings, const Profile& profile, ShipCatalogue& catalogue,
+                       std::int32_t& gunRangeValue)
+    : m_settings(std::move(settings)), m_catalogue(catalogue), m_gunRangeValue(gunRangeValue)
+{
+    if (m_settings.visibilityRings && !m_settings.conditions.day) {
+        m_training = NightTraining(profile);
+    }
+}
+
+void RangeRings::appendRings(const RingShip& ship, MarkList& marks)
+{
+    if (m_settings.gunRings) {
+        appendGunRing(ship, marks);
+    }
+    if (m_settings.visibilityRings) {
+        const int training = m_training.modifierOf(ship.shortName, ship.shipClass);
+        appendLabelled(ship,
+                       visibilityRings(ship.type, training, m_settings.conditions, m_settings.filter,
+                                       m_settings.mapScale),
+                       marks);
+    }
+    if (m_settings.radarRings) {
+        appendLabelled(ship,
+                       radarRings(ship.type, ship.radarType, m_settings.conditions, m_settings.filter,
+                                  m_settings.mapScale),
+                       marks);
+    }
+}
+
+void RangeRings::appendGunRing(const RingShip& ship, MarkList& marks)
+{
+    const std::optional<std::int32_t> radius =
+        gunRadius(m_catalogue.GunsRang(), ship.shipClass, m_settings.mapScale, m_gunRangeValue);
+    if (radius) {
+        marks.push_back(
+            CircleMark{.centre = ship.at,
+                       .radius = *radius,
+                       .colour = ship.side == Side::Blue ? mapColours::forceA : mapColours::forceB});
+    }
+}
+
+void RangeRings::appendLabelled(const RingShip& ship, const std::vector<Ring>& rings, MarkList& marks) const
+{
+    for (const Ring& ring : rings) {
+        marks.push_back(CircleMark{.centre = ship.at, .radius = ring.radius, .colour = ring.colour});
+        if (hasRingLabels(m_settings.zoomIndex)) {
+            marks.push_back(TextMark{.at = {.x = ship.at.x, .y = belowBy(ship.at.y, ring.radius)},
+                                     .text = ring.label,
+                                     .colour = ring.colour});
+        }
+    }
 }
 
 } // namespace torvane

@@ -1,6 +1,10 @@
 #pragma once
 
+#include "map/map_marks.h"
+#include "store/side.h"
+
 #include <QHash>
+#include <QLatin1StringView>
 #include <QString>
 #include <QStringView>
 
@@ -13,6 +17,7 @@ namespace torvane {
 
 class Profile;
 class RecordSource;
+class ShipCatalogue;
 
 /// The types of ship by their index in the range tables, less 1.
 inline constexpr std::array<const char*, 6> ringTypes{"BB", "BC", "CA", "CL", "DD", "TR"};
@@ -44,20 +49,20 @@ inline constexpr RangeTable radarRangeTable{{
 /// Yards of a table for a type index and a ring class, both from 1. Throws SubscriptOutOfRange beyond them.
 std::int32_t rangeOf(const RangeTable& table, int type, int ringClass);
 
-/// A class of target against which rings are drawn, with the colours of its rings as red, green, blue in
-/// eight bits each, and the key on the map that picks it.
+/// A class of target against which rings are drawn, with the colours of its rings and the key on the map that
+/// picks it.
 struct RingClass
 {
     int number; ///< row of the tables, from 1
-    const char* label;
-    const char* key;
-    std::uint32_t visibilityColour;
-    std::uint32_t radarColour;
+    QLatin1StringView label;
+    QLatin1StringView key;
+    MapColour visibilityColour;
+    MapColour radarColour;
 };
 inline constexpr std::array<RingClass, 3> ringClasses{{
-    {1, "BB", "B", 0xFFFFFF, 0x804000},
-    {3, "CA", "C", 0x00FF00, 0xC04000},
-    {5, "DD", "D", 0xFFFF00, 0xFF8000},
+    {1, QLatin1StringView{"BB"}, QLatin1StringView{"B"}, 0xFFFFFF, 0x804000},
+    {3, QLatin1StringView{"CA"}, QLatin1StringView{"C"}, 0x00FF00, 0xC04000},
+    {5, QLatin1StringView{"DD"}, QLatin1StringView{"D"}, 0xFFFF00, 0xFF8000},
 }};
 
 /// Which of the classes are drawn: all, or the one of a key. Gun rings know no filter.
@@ -66,7 +71,7 @@ struct RingFilter
     bool on = false;
     QString key;
 
-    bool draws(const RingClass& ringClass) const { return !on || key == QLatin1StringView(ringClass.key); }
+    bool draws(const RingClass& ringClass) const { return !on || key == ringClass.key; }
 };
 
 /// The weather and the hour, as the texts of the environment dialog have them at the moment.
@@ -126,8 +131,8 @@ private:
 struct Ring
 {
     std::int32_t radius = 0; ///< pixels; below 0 where the sight is less than none
-    std::uint32_t colour = 0;
-    const char* label = "";
+    MapColour colour = mapColours::black;
+    QLatin1StringView label;
 
     bool operator==(const Ring&) const = default;
 };
@@ -135,9 +140,10 @@ struct Ring
 /// Pixels of a range in yards, down to the next whole one.
 std::int32_t radiusOf(std::int32_t yards, float mapScale);
 
-/// The radius of a class's gun ring in pixels, from the field `Range` of `GunsRang`; nothing where there is no
-/// ring. `gunRangeValue` goes from ship to ship, 0 at first: it comes as the pixels of the ring before, and a
-/// class without a record takes it for yards. Moves `gunsRang`. Throws Overflow for a range beyond 32 bits.
+/// The radius of a class's gun ring in pixels, from the field `Range` of `GunsRang`; nothing where there is
+/// no ring. `gunRangeValue` goes from ship to ship, 0 at first: it comes as the pixels of the ring before,
+/// and a class without a record takes it for yards. Moves `gunsRang`. Throws Overflow for a range beyond 32
+/// bits.
 std::optional<std::int32_t> gunRadius(RecordSource& gunsRang, const QString& shipClass, float mapScale,
                                       std::int32_t& gunRangeValue);
 /// The rings of sight, `training` percent added to the visibility. Throws SubscriptOutOfRange as `typeIndex`
@@ -153,5 +159,51 @@ constexpr bool hasRingLabels(int zoomIndex)
 {
     return zoomIndex >= 1 && zoomIndex <= 8;
 }
+
+/// What the rings of one redraw depend on besides the ship.
+struct RingSettings
+{
+    bool gunRings = false; ///< the three families, each drawn where it is on
+    bool visibilityRings = false;
+    bool radarRings = false;
+    RingFilter filter;
+    RingConditions conditions;
+    float mapScale = 0; ///< yards per pixel, not 0
+    int zoomIndex = 0;
+};
+
+/// A ship as the map draws it, with its keys as they stand in the profile.
+struct RingShip
+{
+    PixelPoint at;
+    Side side = Side::Blue;
+    QString type;
+    QString shipClass;
+    QString shortName;
+    QString radarType;
+};
+
+/// The rings of all ships of one redraw.
+class RangeRings
+{
+public:
+    /// Looks up the night training of all ships in the profile, where it counts. `gunRangeValue` is
+    /// `gunRadius`'s and outlasts the redraw, as the catalogue does.
+    RangeRings(RingSettings settings, const Profile& profile, ShipCatalogue& catalogue,
+               std::int32_t& gunRangeValue);
+
+    /// Appends a ship's circles and labels in the order gun, visibility, radar. Throws as `gunRadius`,
+    /// `visibilityRings` and `radarRings` do, with the marks before the failure appended.
+    void appendRings(const RingShip& ship, MarkList& marks);
+
+private:
+    void appendGunRing(const RingShip& ship, MarkList& marks);
+    void appendLabelled(const RingShip& ship, const std::vector<Ring>& rings, MarkList& marks) const;
+
+    RingSettings m_settings;
+    NightTraining m_training;
+    ShipCatalogue& m_catalogue;
+    std::int32_t& m_gunRangeValue;
+};
 
 } // namespace torvane

@@ -1,5 +1,6 @@
 #include "map/range_rings.h"
 
+#include "platform/profile.h"
 #include "store/ship_catalogue.h"
 #include "support/catalogue_file.h"
 #include "support/expect_error.h"
@@ -94,14 +95,14 @@ TEST(RingClasses, AreBattleshipsCruisersAndDestroyersInTheirColours)
 {
     constexpr std::array<int, 3> numbers{1, 3, 5};
     constexpr std::array<const char*, 3> labels{"BB", "CA", "DD"};
-    constexpr std::array<std::uint32_t, 3> white_green_yellow{0xFFFFFF, 0x00FF00, 0xFFFF00};
-    constexpr std::array<std::array<std::uint32_t, 3>, 3> browns{
+    constexpr std::array<MapColour, 3> sightColours{0xFFFFFF, 0x00FF00, 0xFFFF00};
+    constexpr std::array<std::array<MapColour, 3>, 3> radarColours{
         {{128, 64, 0}, {192, 64, 0}, {255, 128, 0}}};
     for (std::size_t i = 0; i < ringClasses.size(); ++i) {
-        const auto [red, green, blue] = browns.at(i);
+        const auto [red, green, blue] = radarColours.at(i);
         EXPECT_EQ(ringClasses.at(i).number, numbers.at(i));
-        EXPECT_STREQ(ringClasses.at(i).label, labels.at(i));
-        EXPECT_EQ(ringClasses.at(i).visibilityColour, white_green_yellow.at(i)) << labels.at(i);
+        EXPECT_EQ(ringClasses.at(i).label, QLatin1StringView(labels.at(i)));
+        EXPECT_EQ(ringClasses.at(i).visibilityColour, sightColours.at(i)) << labels.at(i);
         EXPECT_EQ(ringClasses.at(i).radarColour, (red << 16) + (green << 8) + blue) << labels.at(i);
     }
 }
@@ -111,7 +112,7 @@ TEST(RingFilters, DrawTheClassOfTheirKeyAndAllClassesWithoutOne)
     const auto drawn = [](const RingFilter& filter) {
         std::string labels;
         for (const RingClass& each : ringClasses) {
-            labels += filter.draws(each) ? each.label : "-";
+            labels += filter.draws(each) ? each.label.data() : "-";
         }
         return labels;
     };
@@ -181,17 +182,16 @@ RingConditions clear(const char* visibility = "100 %", const char* radar = "100 
             .rain = QStringLiteral("Off")};
 }
 
-constexpr std::uint32_t white = 0xFFFFFF;
-constexpr std::uint32_t green = 0x00FF00;
-constexpr std::uint32_t yellow = 0xFFFF00;
-constexpr std::uint32_t brown = 0x804000;
-constexpr std::uint32_t rust = 0xC04000;
-constexpr std::uint32_t orange = 0xFF8000;
+constexpr MapColour white = 0xFFFFFF;
+constexpr MapColour green = 0x00FF00;
+constexpr MapColour yellow = 0xFFFF00;
+constexpr MapColour brown = 0x804000;
+constexpr MapColour rust = 0xC04000;
+constexpr MapColour orange = 0xFF8000;
 
-bool operator==(const Ring& ring, const std::tuple<int, std::uint32_t, const char*>& expected)
+Ring ring(int radius, MapColour colour, const char* label)
 {
-    return ring.radius == std::get<0>(expected) && ring.colour == std::get<1>(expected) &&
-           qstrcmp(ring.label, std::get<2>(expected)) == 0;
+    return {.radius = radius, .colour = colour, .label = QLatin1StringView(label)};
 }
 
 std::vector<int> radii(const std::vector<Ring>& rings)
@@ -205,9 +205,9 @@ std::vector<int> radii(const std::vector<Ring>& rings)
 
 TEST(VisibilityRings, AreThreeInTheColoursAndLabelsOfTheirClasses)
 {
-    EXPECT_THAT(visibilityRings(u"CA", 0, clear("80 %"), {}, 60),
-                ::testing::ElementsAre(std::tuple(432, white, "BB"), std::tuple(388, green, "CA"),
-                                       std::tuple(345, yellow, "DD")));
+    EXPECT_THAT(
+        visibilityRings(u"CA", 0, clear("80 %"), {}, 60),
+        ::testing::ElementsAre(ring(432, white, "BB"), ring(388, green, "CA"), ring(345, yellow, "DD")));
 }
 
 TEST(VisibilityRings, OfAnExpertCruiserAtNightReach864PixelsAgainstDestroyers)
@@ -261,9 +261,9 @@ TEST(VisibilityRings, OfAnUnknownTypeAreASubscriptFailure)
 
 TEST(RadarRings, AreThreeInTheColoursAndLabelsOfTheirClasses)
 {
-    EXPECT_THAT(radarRings(u"BB", u"EXCELLENT", clear(), {}, 60),
-                ::testing::ElementsAre(std::tuple(750, brown, "BB"), std::tuple(675, rust, "CA"),
-                                       std::tuple(637, orange, "DD")));
+    EXPECT_THAT(
+        radarRings(u"BB", u"EXCELLENT", clear(), {}, 60),
+        ::testing::ElementsAre(ring(750, brown, "BB"), ring(675, rust, "CA"), ring(637, orange, "DD")));
 }
 
 TEST(RadarRings, MultiplyRatingSeaRainAndConditions)
@@ -292,8 +292,7 @@ TEST(RadarRings, TakeTheirFactorsInTheirOrder)
 TEST(RadarRings, WithoutARadarOrInAHeavySeaAreThereWithTheRadiusNought)
 {
     EXPECT_THAT(radarRings(u"DD", u"NONE", clear(), {}, 60),
-                ::testing::ElementsAre(std::tuple(0, brown, "BB"), std::tuple(0, rust, "CA"),
-                                       std::tuple(0, orange, "DD")));
+                ::testing::ElementsAre(ring(0, brown, "BB"), ring(0, rust, "CA"), ring(0, orange, "DD")));
     for (const char* sea : {"7", "8"}) {
         RingConditions heavy = clear();
         heavy.seaState = QLatin1StringView(sea);
@@ -321,15 +320,15 @@ TEST(BothFamilies, DrawTheClassOfTheKeyAlone)
 {
     const RingFilter destroyers{.on = true, .key = QStringLiteral("D")};
     EXPECT_THAT(visibilityRings(u"CA", 0, clear(), destroyers, 60),
-                ::testing::ElementsAre(std::tuple(432, yellow, "DD")));
+                ::testing::ElementsAre(ring(432, yellow, "DD")));
     EXPECT_THAT(radarRings(u"CA", u"EXCELLENT", clear(), destroyers, 60),
-                ::testing::ElementsAre(std::tuple(573, orange, "DD")));
+                ::testing::ElementsAre(ring(573, orange, "DD")));
     const RingFilter cruisers{.on = true, .key = QStringLiteral("C")};
     EXPECT_THAT(visibilityRings(u"CA", 0, clear(), cruisers, 60),
-                ::testing::ElementsAre(std::tuple(486, green, "CA")));
+                ::testing::ElementsAre(ring(486, green, "CA")));
     const RingFilter battleships{.on = true, .key = QStringLiteral("B")};
     EXPECT_THAT(radarRings(u"CA", u"EXCELLENT", clear(), battleships, 60),
-                ::testing::ElementsAre(std::tuple(675, brown, "BB")));
+                ::testing::ElementsAre(ring(675, brown, "BB")));
 }
 
 TEST(RingLabels, StandAtLevelsOneToEight)
@@ -342,10 +341,11 @@ TEST(RingLabels, StandAtLevelsOneToEight)
     }
 }
 
-class GunRings : public ::testing::Test
+/// A catalogue with some ranges of guns, and the value that goes from ship to ship.
+class Ranges : public ::testing::Test
 {
 protected:
-    GunRings()
+    Ranges()
     {
         CatalogueFile file(m_folder.filePath("ShipDatabase.mdb"));
         file.addGunRange("Nelson", "39780");
@@ -357,17 +357,23 @@ protected:
         m_controls.bind(m_folder.path());
     }
 
-    std::optional<std::int32_t> radius(const char* shipClass, float scale = 60)
-    {
-        return gunRadius(m_catalogue.GunsRang(), QLatin1StringView(shipClass), scale, carried);
-    }
-
     std::int32_t carried = 0;
 
 private:
     QTemporaryDir m_folder;
     DataControls m_controls;
-    ShipCatalogue m_catalogue{m_controls};
+
+protected:
+    ShipCatalogue catalogue{m_controls};
+};
+
+class GunRings : public Ranges
+{
+protected:
+    std::optional<std::int32_t> radius(const char* shipClass, float scale = 60)
+    {
+        return gunRadius(catalogue.GunsRang(), QLatin1StringView(shipClass), scale, carried);
+    }
 };
 
 TEST_F(GunRings, HaveTheRangeOfTheFirstRecordOfTheClassInPixels)
@@ -416,7 +422,8 @@ protected:
         const char* training;
         const char* shipClass = "Some";
     };
-    static NightTraining of(std::initializer_list<Ship> ships, std::initializer_list<int> namelessDivisions = {})
+    static NightTraining of(std::initializer_list<Ship> ships,
+                            std::initializer_list<int> namelessDivisions = {})
     {
         QByteArray bytes;
         for (int n = 0; n < 13; ++n) {
@@ -439,8 +446,10 @@ protected:
 
 TEST_F(Training, HasItsPercentForEachWordInAnyCase)
 {
-    const NightTraining training =
-        of({{0, 0, "Hood", "EXPERT"}, {0, 1, "Ajax", "good"}, {0, 2, "York", "Average"}, {0, 3, "Kent", "pOOr"}});
+    const NightTraining training = of({{0, 0, "Hood", "EXPERT"},
+                                       {0, 1, "Ajax", "good"},
+                                       {0, 2, "York", "Average"},
+                                       {0, 3, "Kent", "pOOr"}});
     EXPECT_EQ(modifier(training, "Hood"), 20);
     EXPECT_EQ(modifier(training, "Ajax"), 10);
     EXPECT_EQ(modifier(training, "York"), 0);
@@ -496,6 +505,193 @@ TEST_F(Training, IsLookedForInTwelveDivisionsOfFourteenShips)
     EXPECT_EQ(modifier(training, "Ajax"), 20);
     EXPECT_EQ(modifier(training, "Hood"), 0);
     EXPECT_EQ(modifier(training, "Kent"), 0);
+}
+
+class RingMarks : public Ranges
+{
+protected:
+    /// All three families by day at 60 yards a pixel.
+    static RingSettings allOn()
+    {
+        return {.gunRings = true,
+                .visibilityRings = true,
+                .radarRings = true,
+                .filter = {},
+                .conditions = clear(),
+                .mapScale = 60,
+                .zoomIndex = 4};
+    }
+    MarkList marksOf(const RingSettings& settings, const std::vector<RingShip>& ships,
+                     const char* profile = "")
+    {
+        RangeRings rings(settings, Profile::parse(profile), catalogue, carried);
+        MarkList marks;
+        for (const RingShip& ship : ships) {
+            rings.appendRings(ship, marks);
+        }
+        return marks;
+    }
+
+    static inline const RingShip nelson{.at = {100, 200},
+                                        .side = Side::Blue,
+                                        .type = QStringLiteral("BB"),
+                                        .shipClass = QStringLiteral("Nelson"),
+                                        .shortName = QStringLiteral("Rodney"),
+                                        .radarType = QStringLiteral("Excellent")};
+};
+
+CircleMark circle(int x, int y, int radius, MapColour colour)
+{
+    return {.centre = {x, y}, .radius = radius, .colour = colour};
+}
+
+TextMark text(int x, int y, const char* label, MapColour colour)
+{
+    return {.at = {x, y}, .text = QString::fromLatin1(label), .colour = colour};
+}
+
+TEST_F(RingMarks, OfOneShipAreGunThenSightThenRadarEachWithItsLabelAtItsLowerEdge)
+{
+    const MarkList expected{
+        circle(100, 200, 663, 0x0000FF), circle(100, 200, 600, white), text(100, 800, "BB", white),
+        circle(100, 200, 540, green),    text(100, 740, "CA", green),  circle(100, 200, 480, yellow),
+        text(100, 680, "DD", yellow),    circle(100, 200, 750, brown), text(100, 950, "BB", brown),
+        circle(100, 200, 675, rust),     text(100, 875, "CA", rust),   circle(100, 200, 637, orange),
+        text(100, 837, "DD", orange),
+    };
+    EXPECT_TRUE(marksOf(allOn(), {nelson}) == expected);
+}
+
+TEST_F(RingMarks, OfForceBHaveARedGunRing)
+{
+    RingShip enemy = nelson;
+    enemy.side = Side::Red;
+    RingSettings guns = allOn();
+    guns.visibilityRings = guns.radarRings = false;
+    EXPECT_TRUE(marksOf(guns, {enemy}) == MarkList{circle(100, 200, 663, 0xFF0000)});
+}
+
+TEST_F(RingMarks, EachFamilyHasASwitchOfItsOwn)
+{
+    RingSettings none = allOn();
+    none.gunRings = none.visibilityRings = none.radarRings = false;
+    EXPECT_TRUE(marksOf(none, {nelson}).empty());
+    for (const auto& [family, first, count] :
+         {std::tuple(&RingSettings::gunRings, circle(100, 200, 663, 0x0000FF), 1U),
+          std::tuple(&RingSettings::visibilityRings, circle(100, 200, 600, white), 6U),
+          std::tuple(&RingSettings::radarRings, circle(100, 200, 750, brown), 6U)}) {
+        RingSettings one = none;
+        one.*family = true;
+        const MarkList marks = marksOf(one, {nelson});
+        ASSERT_EQ(marks.size(), count);
+        EXPECT_TRUE(marks.front() == Mark(first));
+    }
+}
+
+TEST_F(RingMarks, OfASwitchedOffFamilyAskNeitherCatalogueNorType)
+{
+    RingSettings sight = allOn();
+    sight.gunRings = false;
+    marksOf(sight, {nelson});
+    EXPECT_EQ(carried, 0);
+    RingSettings guns = allOn();
+    guns.visibilityRings = guns.radarRings = false;
+    RingShip carrier = nelson;
+    carrier.type = QStringLiteral("CV");
+    EXPECT_EQ(marksOf(guns, {carrier}).size(), 1U) << "the gun ring does not need the type";
+}
+
+TEST_F(RingMarks, OfAnUnknownTypeEndWithItsGunRing)
+{
+    RangeRings rings(allOn(), Profile::parse(""), catalogue, carried);
+    RingShip carrier = nelson;
+    carrier.type = QStringLiteral("CV");
+    MarkList marks;
+    expectError(RuntimeError::SubscriptOutOfRange, [&] { rings.appendRings(carrier, marks); });
+    EXPECT_EQ(marks.size(), 1U);
+}
+
+TEST_F(RingMarks, CarryNoLabelsAtLevelsNoughtNineAndTen)
+{
+    for (const int zoomIndex : {11, 9, 10}) {
+        RingSettings far = allOn();
+        far.zoomIndex = zoomIndex;
+        const MarkList marks = marksOf(far, {nelson});
+        EXPECT_EQ(marks.size(), 7U);
+        for (const Mark& mark : marks) {
+            EXPECT_TRUE(std::holds_alternative<CircleMark>(mark)) << zoomIndex;
+        }
+    }
+}
+
+TEST_F(RingMarks, WithTheKeyDAreOneYellowOneOrangeAndTheGunRing)
+{
+    RingSettings filtered = allOn();
+    filtered.filter = {.on = true, .key = QStringLiteral("D")};
+    const MarkList expected{
+        circle(100, 200, 663, 0x0000FF), circle(100, 200, 480, yellow), text(100, 680, "DD", yellow),
+        circle(100, 200, 637, orange),   text(100, 837, "DD", orange),
+    };
+    EXPECT_TRUE(marksOf(filtered, {nelson}) == expected);
+}
+
+TEST_F(RingMarks, OfAShipWithoutARadarStandAtItWithTheirLabels)
+{
+    RingSettings radar = allOn();
+    radar.gunRings = radar.visibilityRings = false;
+    RingShip blind = nelson;
+    blind.radarType = QStringLiteral("INVALID");
+    const MarkList expected{
+        circle(100, 200, 0, brown), text(100, 200, "BB", brown), circle(100, 200, 0, rust),
+        text(100, 200, "CA", rust), circle(100, 200, 0, orange), text(100, 200, "DD", orange),
+    };
+    EXPECT_TRUE(marksOf(radar, {blind}) == expected);
+}
+
+TEST_F(RingMarks, TheGunRangeGoesFromShipToShipAndFromRedrawToRedraw)
+{
+    RingSettings guns = allOn();
+    guns.visibilityRings = guns.radarRings = false;
+    RingShip corvette = nelson;
+    corvette.at = {5, 6};
+    corvette.shipClass = QStringLiteral("Flower");
+    EXPECT_TRUE(marksOf(guns, {corvette}).empty());
+    EXPECT_TRUE(marksOf(guns, {nelson, corvette}) ==
+                (MarkList{circle(100, 200, 663, 0x0000FF), circle(5, 6, 11, 0x0000FF)}));
+    EXPECT_TRUE(marksOf(guns, {corvette}) == MarkList{circle(5, 6, 0, 0x0000FF)});
+    EXPECT_TRUE(marksOf(guns, {corvette}).empty());
+}
+
+constexpr const char* trained = "[DIVISION0]\r\nDIVISIONNAME=Division 1\r\n"
+                                "[DIVISION0SHIP0]\r\nSHORTNAME=Rodney\r\nNIGHTTRAINING=Expert\r\n";
+
+TEST_F(RingMarks, NightTrainingCountsAtNightAlone)
+{
+    RingSettings sight = allOn();
+    sight.gunRings = sight.radarRings = false;
+    sight.conditions.visibility = QStringLiteral("40 %");
+    EXPECT_TRUE(marksOf(sight, {nelson}, trained).front() == Mark(circle(100, 200, 240, white)));
+    sight.conditions.day = false;
+    EXPECT_TRUE(marksOf(sight, {nelson}, trained).front() == Mark(circle(100, 200, 360, white)));
+    EXPECT_TRUE(marksOf(sight, {nelson}).front() == Mark(circle(100, 200, 240, white)));
+}
+
+TEST_F(RingMarks, NightTrainingHelpsNoRadar)
+{
+    RingSettings radar = allOn();
+    radar.gunRings = radar.visibilityRings = false;
+    radar.conditions.day = false;
+    EXPECT_TRUE(marksOf(radar, {nelson}, trained).front() == Mark(circle(100, 200, 750, brown)));
+}
+
+TEST_F(RingMarks, ALabelFarOutOfSightStaysWithinThirtyTwoBits)
+{
+    RingSettings sight = allOn();
+    sight.gunRings = sight.radarRings = false;
+    RingShip far = nelson;
+    far.at.y = std::numeric_limits<std::int32_t>::max() - 10;
+    EXPECT_TRUE(marksOf(sight, {far}).at(1) ==
+                Mark(text(100, std::numeric_limits<std::int32_t>::max(), "BB", white)));
 }
 
 } // namespace
