@@ -278,15 +278,14 @@ TEST(RadarRings, MultiplyRatingSeaRainAndConditions)
 
 TEST(RadarRings, TakeTheirFactorsInTheirOrder)
 {
-    // 0.67 of 38250 yards, then 0.9 and 0.7: the last bits of other orders fall on another side of .5.
-    for (int conditions = 0; conditions <= 100; ++conditions) {
-        RingConditions weather = clear("100 %", "");
-        weather.radar = QString::number(conditions);
-        weather.seaState = QStringLiteral("5");
-        weather.rain = QStringLiteral("On");
-        const double yards = 67 / 100.0 * 45000 * (76 / 100.0) * (70 / 100.0) * (conditions / 100.0);
-        EXPECT_EQ(radarRings(u"BC", u"AVERAGE", weather, {}, 1).front().radius, std::nearbyint(yards));
-    }
+    RingConditions weather = clear("100 %", "75 %");
+    weather.rain = QStringLiteral("On");
+    weather.seaState = QStringLiteral("6");
+    EXPECT_EQ(radarRings(u"BB", u"POOR", weather, {}, 1).at(1).radius, 5953)
+        << "the last bit of 5953.5 yards, which other orders round up";
+    weather.seaState = QStringLiteral("4");
+    EXPECT_EQ(radarRings(u"BB", u"POOR", weather, {}, 1).at(0).radius, 7844)
+        << "7843.5 yards, which a product of whole numbers rounds down";
 }
 
 TEST(RadarRings, WithoutARadarOrInAHeavySeaAreThereWithTheRadiusNought)
