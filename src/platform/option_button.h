@@ -15,6 +15,8 @@ public:
     explicit OptionButton(QWidget* parent = nullptr);
 
 protected:
+    /// The whole of its row can be clicked.
+    bool hitButton(const QPoint& position) const override { return rect().contains(position); }
     void nextCheckState() override;
     void keyPressEvent(QKeyEvent* event) override;
 };
