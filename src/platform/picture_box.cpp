@@ -124,27 +124,44 @@ void PictureBox::clear()
     update();
 }
 
-void PictureBox::line(QPoint from, QPoint to)
+PictureBox::Batch::Batch(PictureBox& picture) : m_picture(picture)
 {
+    m_picture.m_painter.emplace(&m_picture.m_image);
+}
+
+PictureBox::Batch::~Batch()
+{
+    m_picture.m_painter.reset();
+    m_picture.update();
+}
+
+template <typename Drawing>
+void PictureBox::draw(Drawing drawing)
+{
+    if (m_painter) {
+        m_painter->setPen(m_foreColor);
+        drawing(*m_painter);
+        return;
+    }
     QPainter painter(&m_image);
     painter.setPen(m_foreColor);
-    painter.drawLine(from, to);
+    drawing(painter);
     update();
+}
+
+void PictureBox::line(QPoint from, QPoint to)
+{
+    draw([&](QPainter& painter) { painter.drawLine(from, to); });
 }
 
 void PictureBox::box(QPoint from, QPoint to)
 {
-    QPainter painter(&m_image);
-    painter.setPen(m_foreColor);
-    painter.drawRect(boxOf(from, to).adjusted(0, 0, -1, -1));
-    update();
+    draw([&](QPainter& painter) { painter.drawRect(boxOf(from, to).adjusted(0, 0, -1, -1)); });
 }
 
 void PictureBox::filledBox(QPoint from, QPoint to)
 {
-    QPainter painter(&m_image);
-    painter.fillRect(boxOf(from, to), m_foreColor);
-    update();
+    draw([&](QPainter& painter) { painter.fillRect(boxOf(from, to), m_foreColor); });
 }
 
 void PictureBox::circle(QPoint centre, int radius)
@@ -156,23 +173,20 @@ void PictureBox::circle(QPoint centre, int radius)
     if (!overlap(bounds, area)) {
         return;
     }
-    update();
-    if (m_image.devicePixelRatio() == 1) {
-        CirclePixels(m_image, centre, size, m_foreColor.rgb()).plot();
-        return;
-    }
-    QPainter painter(&m_image);
-    painter.setPen(m_foreColor);
-    if (radius == 0) {
-        painter.drawPoint(centre);
-    } else if (size <= smallRadius || area.contains(bounds)) {
-        painter.drawEllipse(centre, static_cast<int>(size), static_cast<int>(size));
-    } else {
-        // The drawing library takes time for every pixel of a circle, seen or not, and can't take large ones.
-        for (const Curve& curve : visibleArcs(centre, size, area)) {
-            painter.drawPolyline(curve.data(), static_cast<int>(curve.size()));
+    draw([&](QPainter& painter) {
+        if (m_image.devicePixelRatio() == 1) {
+            CirclePixels(m_image, centre, size, m_foreColor.rgb()).plot();
+        } else if (radius == 0) {
+            painter.drawPoint(centre);
+        } else if (size <= smallRadius || area.contains(bounds)) {
+            painter.drawEllipse(centre, static_cast<int>(size), static_cast<int>(size));
+        } else {
+            // The drawing library takes time for all of a circle, seen or not, and can't take large ones.
+            for (const Curve& curve : visibleArcs(centre, size, area)) {
+                painter.drawPolyline(curve.data(), static_cast<int>(curve.size()));
+            }
         }
-    }
+    });
 }
 
 void PictureBox::print(const QString& text)
@@ -182,16 +196,15 @@ void PictureBox::print(const QString& text)
     const QPoint at = m_current;
     m_current = QPoint(0, static_cast<int>(std::min<qint64>(qint64{at.y()} + lineHeight, INT_MAX)));
     // A glyph may reach a little out of its line's box.
-    const QRectF area =
-        QRectF({}, m_image.deviceIndependentSize()).adjusted(0, -2.0 * lineHeight, lineHeight, lineHeight);
+    const QRectF area = QRectF({}, m_image.deviceIndependentSize())
+                            .adjusted(0, -2.0 * lineHeight, lineHeight, lineHeight);
     if (at.y() < area.top() || at.y() > area.bottom() || at.x() > area.right()) {
         return;
     }
-    QPainter painter(&m_image);
-    painter.setFont(font());
-    painter.setPen(m_foreColor);
-    painter.drawText(at + QPoint(0, metrics.ascent()), text);
-    update();
+    draw([&](QPainter& painter) {
+        painter.setFont(font());
+        painter.drawText(at + QPoint(0, metrics.ascent()), text);
+    });
 }
 
 void PictureBox::paintEvent(QPaintEvent* event)
