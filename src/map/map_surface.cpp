@@ -1,5 +1,7 @@
 #include "map/map_surface.h"
 
+#include "map/tool_row.h"
+
 #include <QCoreApplication>
 #include <QKeyEvent>
 #include <QLabel>
@@ -154,7 +156,6 @@ MapSurface::MapSurface(QWidget* parent)
       m_scalePanel(new QWidget(this))
 {
     setObjectName(QStringLiteral("surface"));
-    setMouseTracking(true);
     m_horizontal->setObjectName(QStringLiteral("HScroll1"));
     m_vertical->setObjectName(QStringLiteral("VScroll1"));
     m_map->setBars(m_horizontal, m_vertical);
@@ -168,6 +169,7 @@ MapSurface::MapSurface(QWidget* parent)
     m_scalePanel->setObjectName(QStringLiteral("picScaleYards"));
     m_scalePanel->setGeometry(scalePanel);
     makeReadOuts();
+    makeTools();
     const MapLayout normal = *mapLayout(WindowState::Normal, {}, {});
     setMinimumSize(normal.vScrollLeft + scrollBarSize, normal.hScrollTop + scrollBarSize);
     arrange(normal);
@@ -203,11 +205,23 @@ void MapSurface::makeReadOuts()
     }
 }
 
+void MapSurface::makeTools()
+{
+    m_tools = new ToolRow(this);
+    m_tools->watch(m_map, ToolRow::Place::Map);
+    m_tools->watch(m_rulerCaption, ToolRow::Place::Ruler);
+    m_tools->watch(m_distance, ToolRow::Place::Ruler);
+    m_tools->watch(m_scalePanel, ToolRow::Place::ScalePanel);
+    m_tools->leadTabThrough(m_map);
+}
+
 void MapSurface::arrange(const MapLayout& layout)
 {
     m_map->setGeometry(MapLayout::mapLeft, MapLayout::mapTop, layout.mapWidth, layout.mapHeight);
     m_horizontal->setGeometry(0, layout.hScrollTop, layout.hScrollWidth, scrollBarSize);
     m_vertical->setGeometry(layout.vScrollLeft, MapLayout::mapTop, scrollBarSize, layout.vScrollHeight);
+    m_tools->placeCorner({layout.vScrollLeft, layout.hScrollTop}, scrollBarSize,
+                         {layout.hotCenterMapLeft, layout.hotCenterMapTop});
 }
 
 void MapSurface::centreBars()
@@ -265,12 +279,6 @@ void MapSurface::showDevelopmentReadOuts()
         box->raise();
         box->show();
     }
-}
-
-void MapSurface::mouseMoveEvent(QMouseEvent* event)
-{
-    Q_EMIT pointerMoved();
-    QWidget::mouseMoveEvent(event);
 }
 
 } // namespace torvane

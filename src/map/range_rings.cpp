@@ -33,14 +33,11 @@ std::int16_t percentOf(QStringView text)
     return toInt16(numberValue(text));
 }
 
-/// The catalogue has two ships of this name.
-constexpr QLatin1StringView sharedName{"Duncan"};
-
 /// What tells a ship's training from that of the others.
 QString trainingKey(const QString& shortName, const QString& shipClass)
 {
     // No value of a profile holds a line break.
-    return shortName == sharedName ? shortName + u'\n' + shipClass : shortName;
+    return shortName == ambiguousShortName ? shortName + u'\n' + shipClass : shortName;
 }
 
 /// A row of the view further down. Where 32 bits end, the last row: both are far out of sight.
@@ -144,13 +141,13 @@ std::optional<std::int32_t> gunRadius(RecordSource& gunsRang, const QString& shi
 }
 
 std::vector<Ring> visibilityRings(QStringView type, int training, const RingConditions& conditions,
-                                  const RingFilter& filter, float mapScale)
+                                  const MapToggles& toggles, float mapScale)
 {
     const int index = typeIndex(type);
     const std::int16_t percent = toInt16(percentOf(conditions.visibility) + training);
     std::vector<Ring> rings;
     for (const RingClass& each : ringClasses) {
-        if (filter.draws(each)) {
+        if (isDrawn(each, toggles)) {
             const double yards = percent / hundred * rangeOf(visibilityRangeTable, index, each.number);
             rings.push_back({.radius = radiusOf(toInt32(yards), mapScale),
                              .colour = each.visibilityColour,
@@ -161,7 +158,7 @@ std::vector<Ring> visibilityRings(QStringView type, int training, const RingCond
 }
 
 std::vector<Ring> radarRings(QStringView type, QStringView radarType, const RingConditions& conditions,
-                             const RingFilter& filter, float mapScale)
+                             const MapToggles& toggles, float mapScale)
 {
     const int index = typeIndex(type);
     const double weather = percentOf(conditions.radar) / hundred;
@@ -170,7 +167,7 @@ std::vector<Ring> radarRings(QStringView type, QStringView radarType, const Ring
     const double rain = radarRainPercent(conditions.rain) / hundred;
     std::vector<Ring> rings;
     for (const RingClass& each : ringClasses) {
-        if (filter.draws(each)) {
+        if (isDrawn(each, toggles)) {
             // The order of the factors decides where the last bit goes.
             const double yards = rating * rangeOf(radarRangeTable, index, each.number) * sea * rain * weather;
             rings.push_back({.radius = radiusOf(toInt32(yards), mapScale),
@@ -181,53 +178,46 @@ std::vector<Ring> radarRings(QStringView type, QStringView radarType, const Ring
     return rings;
 }
 
-RangeRings::RangeRings(RingSettings settings, const Profile& profile, ShipCatalogue& catalogue,
-                       std::int32_t& gunRangeValue)
-    : m_settings(std::move(settings)), m_catalogue(catalogue), m_gunRangeValue(gunRangeValue)
+RangeRings::RangeRings(MapState& state, RingConditions conditions, const Profile& profile,
+                       ShipCatalogue& catalogue)
+    : m_state(state), m_conditions(std::move(conditions)), m_catalogue(catalogue)
 {
-    if (m_settings.visibilityRings && !m_settings.conditions.day) {
+    if (m_state.toggles.visRingsOn == 1 && !m_conditions.day) {
         m_training = NightTraining(profile);
     }
 }
 
-void RangeRings::appendRings(const RingShip& ship, MarkList& marks)
+void RangeRings::appendRings(const PlottedShip& ship, MarkList& marks)
 {
-    if (m_settings.gunRings) {
+    const MapToggles& toggles = m_state.toggles;
+    const float scale = m_state.view.mapScale;
+    if (toggles.gunRingsOn == 1) {
         appendGunRing(ship, marks);
     }
-    if (m_settings.visibilityRings) {
+    if (toggles.visRingsOn == 1) {
         const int training = m_training.modifierOf(ship.shortName, ship.shipClass);
-        appendLabelled(ship,
-                       visibilityRings(ship.type, training, m_settings.conditions, m_settings.filter,
-                                       m_settings.mapScale),
-                       marks);
+        appendLabelled(ship.at, visibilityRings(ship.type, training, m_conditions, toggles, scale), marks);
     }
-    if (m_settings.radarRings) {
-        appendLabelled(ship,
-                       radarRings(ship.type, ship.radarType, m_settings.conditions, m_settings.filter,
-                                  m_settings.mapScale),
-                       marks);
+    if (toggles.radarRingsOn == 1) {
+        appendLabelled(ship.at, radarRings(ship.type, ship.radarType, m_conditions, toggles, scale), marks);
     }
 }
 
-void RangeRings::appendGunRing(const RingShip& ship, MarkList& marks)
+void RangeRings::appendGunRing(const PlottedShip& ship, MarkList& marks)
 {
     const std::optional<std::int32_t> radius =
-        gunRadius(m_catalogue.GunsRang(), ship.shipClass, m_settings.mapScale, m_gunRangeValue);
+        gunRadius(m_catalogue.GunsRang(), ship.shipClass, m_state.view.mapScale, m_state.gunRangeValue);
     if (radius) {
-        marks.push_back(
-            CircleMark{.centre = ship.at,
-                       .radius = *radius,
-                       .colour = ship.side == Side::Blue ? mapColours::forceA : mapColours::forceB});
+        marks.push_back(CircleMark{.centre = ship.at, .radius = *radius, .colour = colourOf(ship.side)});
     }
 }
 
-void RangeRings::appendLabelled(const RingShip& ship, const std::vector<Ring>& rings, MarkList& marks) const
+void RangeRings::appendLabelled(PixelPoint at, const std::vector<Ring>& rings, MarkList& marks) const
 {
     for (const Ring& ring : rings) {
-        marks.push_back(CircleMark{.centre = ship.at, .radius = ring.radius, .colour = ring.colour});
-        if (hasRingLabels(m_settings.zoomIndex)) {
-            marks.push_back(TextMark{.at = {.x = ship.at.x, .y = belowBy(ship.at.y, ring.radius)},
+        marks.push_back(CircleMark{.centre = at, .radius = ring.radius, .colour = ring.colour});
+        if (hasRingLabels(m_state.view.zoomIndex)) {
+            marks.push_back(TextMark{.at = {.x = at.x, .y = belowBy(at.y, ring.radius)},
                                      .text = ring.label,
                                      .colour = ring.colour});
         }

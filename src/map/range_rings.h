@@ -1,7 +1,6 @@
 #pragma once
 
-#include "map/map_marks.h"
-#include "store/side.h"
+#include "map/map_plotting.h"
 
 #include <QHash>
 #include <QLatin1StringView>
@@ -65,14 +64,12 @@ inline constexpr std::array<RingClass, 3> ringClasses{{
     {5, QLatin1StringView{"DD"}, QLatin1StringView{"D"}, 0xFFFF00, 0xFF8000},
 }};
 
-/// Which of the classes are drawn: all, or the one of a key. Gun rings know no filter.
-struct RingFilter
+/// Whether rings of a class are drawn: all, or with the filter on the one of its key. Gun rings know no
+/// filter.
+inline bool isDrawn(const RingClass& ringClass, const MapToggles& toggles)
 {
-    bool on = false;
-    QString key;
-
-    bool draws(const RingClass& ringClass) const { return !on || key == ringClass.key; }
-};
+    return toggles.ringFilterOn == 0 || toggles.ringFilterKey == ringClass.key;
+}
 
 /// The weather and the hour, as the texts of the environment dialog have them at the moment.
 struct RingConditions
@@ -149,10 +146,10 @@ std::optional<std::int32_t> gunRadius(RecordSource& gunsRang, const QString& shi
 /// The rings of sight, `training` percent added to the visibility. Throws SubscriptOutOfRange as `typeIndex`
 /// does, and Overflow for a percentage beyond 16 bits.
 std::vector<Ring> visibilityRings(QStringView type, int training, const RingConditions& conditions,
-                                  const RingFilter& filter, float mapScale);
+                                  const MapToggles& toggles, float mapScale);
 /// The rings of radar; those of a ship without one have the radius 0. Throws as `visibilityRings`.
 std::vector<Ring> radarRings(QStringView type, QStringView radarType, const RingConditions& conditions,
-                             const RingFilter& filter, float mapScale);
+                             const MapToggles& toggles, float mapScale);
 
 /// Whether rings carry their labels at this level: not on the nearest and the two farthest ones.
 constexpr bool hasRingLabels(int zoomIndex)
@@ -160,50 +157,27 @@ constexpr bool hasRingLabels(int zoomIndex)
     return zoomIndex >= 1 && zoomIndex <= 8;
 }
 
-/// What the rings of one redraw depend on besides the ship.
-struct RingSettings
-{
-    bool gunRings = false; ///< the three families, each drawn where it is on
-    bool visibilityRings = false;
-    bool radarRings = false;
-    RingFilter filter;
-    RingConditions conditions;
-    float mapScale = 0; ///< yards per pixel, not 0
-    int zoomIndex = 0;
-};
-
-/// A ship as the map draws it, with its keys as they stand in the profile.
-struct RingShip
-{
-    PixelPoint at;
-    Side side = Side::Blue;
-    QString type;
-    QString shipClass;
-    QString shortName;
-    QString radarType;
-};
-
 /// The rings of all ships of one redraw.
 class RangeRings
 {
 public:
-    /// Looks up the night training of all ships in the profile, where it counts. `gunRangeValue` is
-    /// `gunRadius`'s and outlasts the redraw, as the catalogue does.
-    RangeRings(RingSettings settings, const Profile& profile, ShipCatalogue& catalogue,
-               std::int32_t& gunRangeValue);
+    /// Everything handed in outlives the object. Which families are drawn, the filter, scale and zoom level,
+    /// and the gun range that goes from ship to ship are those of `state`. Looks up the night training of all
+    /// ships in the profile, where it counts.
+    RangeRings(MapState& state, RingConditions conditions, const Profile& profile, ShipCatalogue& catalogue);
 
     /// Appends a ship's circles and labels in the order gun, visibility, radar. Throws as `gunRadius`,
     /// `visibilityRings` and `radarRings` do, with the marks before the failure appended.
-    void appendRings(const RingShip& ship, MarkList& marks);
+    void appendRings(const PlottedShip& ship, MarkList& marks);
 
 private:
-    void appendGunRing(const RingShip& ship, MarkList& marks);
-    void appendLabelled(const RingShip& ship, const std::vector<Ring>& rings, MarkList& marks) const;
+    void appendGunRing(const PlottedShip& ship, MarkList& marks);
+    void appendLabelled(PixelPoint at, const std::vector<Ring>& rings, MarkList& marks) const;
 
-    RingSettings m_settings;
+    MapState& m_state;
+    RingConditions m_conditions;
     NightTraining m_training;
     ShipCatalogue& m_catalogue;
-    std::int32_t& m_gunRangeValue;
 };
 
 } // namespace torvane

@@ -117,7 +117,7 @@ void ToolRow::setCaptions(Language language)
     placeCornerTag();
 }
 
-void ToolRow::showState(const ViewToggles& toggles, bool measureOn)
+void ToolRow::showState(const MapToggles& toggles, bool measureOn)
 {
     for (std::size_t index = 0; index < count; ++index) {
         const Tool tool = viewTools.at(index).tool;

@@ -42,7 +42,7 @@ public:
 
     void setCaptions(Language language);
     /// Shows which tools are on, and the mode of the names.
-    void showState(const ViewToggles& toggles, bool measureOn);
+    void showState(const MapToggles& toggles, bool measureOn);
     /// Whether tools show their tags. A tag that shows already stays.
     void setTagsOn(bool on) { m_tagsOn = on; }
     void hideTags();

@@ -12,18 +12,18 @@ constexpr int noNames = namesModes - 1;
 constexpr std::array<const char*, viewTools.size()> pictures{
     "grid", "zoom", "names", "scale", "visibility_rings", "gun_rings", "radar_rings", "measure", "center"};
 
-/// The flag of a tool that has two states, or null.
-bool ViewToggles::*flagOf(Tool tool)
+/// The flag, 0 or 1, of a tool that has two states, or null.
+std::int16_t MapToggles::*flagOf(Tool tool)
 {
     switch (tool) {
     case Tool::Scale:
-        return &ViewToggles::scaleLabelsOn;
+        return &MapToggles::scaleLabelsOn;
     case Tool::VisibilityRings:
-        return &ViewToggles::visRingsOn;
+        return &MapToggles::visRingsOn;
     case Tool::GunRings:
-        return &ViewToggles::gunRingsOn;
+        return &MapToggles::gunRingsOn;
     case Tool::RadarRings:
-        return &ViewToggles::radarRingsOn;
+        return &MapToggles::radarRingsOn;
     default:
         return nullptr;
     }
@@ -36,22 +36,22 @@ int TagText::width() const
     return static_cast<int>(std::ceil(perCharacter * static_cast<double>(string().size()))) + plus;
 }
 
-void toggle(ViewToggles& toggles, Tool tool)
+void toggle(MapToggles& toggles, Tool tool)
 {
     if (tool == Tool::Names) {
-        toggles.namesMode = (toggles.namesMode + 1) % namesModes;
+        toggles.namesMode = static_cast<std::int16_t>((toggles.namesMode + 1) % namesModes);
     } else if (const auto flag = flagOf(tool)) {
-        toggles.*flag = !(toggles.*flag);
+        toggles.*flag = toggles.*flag == 0 ? 1 : 0;
     }
 }
 
-bool isOn(const ViewToggles& toggles, Tool tool)
+bool isOn(const MapToggles& toggles, Tool tool)
 {
     if (tool == Tool::Names) {
         return toggles.namesMode != noNames;
     }
     const auto flag = flagOf(tool);
-    return flag && toggles.*flag;
+    return flag && toggles.*flag == 1;
 }
 
 QString toolPicture(Tool tool, int namesMode)

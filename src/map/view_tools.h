@@ -1,5 +1,6 @@
 #pragma once
 
+#include "map/map_plotting.h"
 #include "platform/language.h"
 
 #include <QString>
@@ -100,23 +101,11 @@ inline constexpr std::array<ViewTool, 9> viewTools{{
     {Tool::CenterMap, "Image1", 0, "hotCenterMap", 0, {"Center Map", 5.5, 3}, {"Zentrum karte", 5.5, 0}},
 }};
 
-/// What the map shows besides the sea. Lasts until the program ends.
-struct ViewToggles
-{
-    int namesMode = 0; ///< 0 type and name, 1 name, 2 type, 3 nothing
-    bool scaleLabelsOn = true;
-    bool visRingsOn = false;
-    bool gunRingsOn = false;
-    bool radarRingsOn = false;
-
-    bool operator==(const ViewToggles&) const = default;
-};
-
 /// What a click on a tool changes: the names go on by one, the four others flip, the remaining tools change
 /// nothing here.
-void toggle(ViewToggles& toggles, Tool tool);
+void toggle(MapToggles& toggles, Tool tool);
 /// Whether a tool stands pressed: what it governs is on the map. Never for tools that are no toggles here.
-bool isOn(const ViewToggles& toggles, Tool tool);
+bool isOn(const MapToggles& toggles, Tool tool);
 /// The picture of a tool, in the program's resources. That of the names shows their mode.
 QString toolPicture(Tool tool, int namesMode = 0);
 

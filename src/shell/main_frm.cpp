@@ -2,6 +2,7 @@
 
 #include "divisions/create_division_frm.h"
 #include "map/map_surface.h"
+#include "map/tool_row.h"
 #include "overview/overview_frm.h"
 #include "platform/pointer.h"
 #include "scenario_file/save_scenario.h"
@@ -26,9 +27,6 @@ namespace torvane {
 
 namespace {
 
-const QColor helpTagColor(255, 255, 128);
-
-constexpr int helpTagHeight = 17;
 constexpr double smallestMenuFont = 7.5; // points
 constexpr double captionPixels = 5.5;    // width of a character of a caption
 
@@ -44,7 +42,6 @@ MainFrm::MainFrm(Editor& editor) : EditorForm(editor, QStringLiteral("MainFrm"),
         "QMenuBar::item:selected { background: palette(highlight); color: palette(highlighted-text); }"));
     m_menu = new MainMenu(bar);
     makeSurface();
-    makeHelpTags();
     connectCommands();
     connectMap();
 }
@@ -70,21 +67,6 @@ void MainFrm::makeSurface()
     m_progress.emplace(m_surface);
 }
 
-void MainFrm::makeHelpTags()
-{
-    for (std::size_t i = 0; i < helpTags.size(); ++i) {
-        auto* tag = new QLabel(m_surface);
-        tag->setObjectName(QLatin1StringView(helpTags[i].name));
-        QPalette colors = tag->palette();
-        colors.setColor(QPalette::Window, helpTagColor);
-        colors.setColor(QPalette::WindowText, Qt::black);
-        tag->setPalette(colors);
-        tag->setAutoFillBackground(true);
-        tag->hide();
-        m_helpTags[i] = tag;
-    }
-}
-
 void MainFrm::connectCommands()
 {
     const auto command = [this](const char* entry, auto handler) {
@@ -108,11 +90,8 @@ void MainFrm::connectMap()
     on(&m_surface->map(), &MapBox::typed, [this](const QString& character) { m_map->keyTyped(character); });
     on(&m_surface->map(), &MapBox::pressed,
        [this](Qt::MouseButton button, QPointF position) { m_map->mousePressed(button, position); });
-    on(&m_surface->map(), &MapBox::moved, [this](QPointF position) {
-        hideHelpTags();
-        m_map->mouseMoved(position);
-    });
-    on(m_surface, &MapSurface::pointerMoved, [this] { hideHelpTags(); });
+    on(&m_surface->map(), &MapBox::moved, [this](QPointF position) { m_map->mouseMoved(position); });
+    on(&m_surface->tools(), &ToolRow::clicked, [this](Tool tool) { m_map->useTool(tool); });
     on(&m_surface->horizontal(), &MapScrollBar::stepped,
        [this](int value, ScrollEvent event) { m_map->scrolledHorizontally(value, event, mapWindowState()); });
     on(&m_surface->vertical(), &MapScrollBar::stepped,
@@ -133,13 +112,6 @@ void MainFrm::askForPosition(const QString& repositionKey)
     m_map->setRepositionKey(repositionKey);
     setValue(m_editor.createDivisionFrm().chkReposition, 1);
     setValue(ChkPlotDiv, 1);
-}
-
-void MainFrm::hideHelpTags()
-{
-    for (QLabel* tag : m_helpTags) {
-        tag->hide();
-    }
 }
 
 void MainFrm::onLoad()
@@ -190,11 +162,7 @@ void MainFrm::applyCaptions(Language language)
         language == Language::German ? qRound(captionPixels * static_cast<double>(ruler.size())) : 0;
     m_surface->setRulerCaption(ruler, rulerWidth);
     fitMenuBar();
-    for (std::size_t i = 0; i < helpTags.size(); ++i) {
-        const HelpTagText& text = helpTags[i].in(language);
-        m_helpTags[i]->setText(text.string());
-        m_helpTags[i]->resize(std::max(text.width(), m_helpTags[i]->sizeHint().width()), helpTagHeight);
-    }
+    m_surface->tools().setCaptions(language);
 }
 
 // The German menus are long: the bar's text gives way until they stand in the window's width, and what is
@@ -257,6 +225,7 @@ void MainFrm::showProgress(const QString& text)
 void MainFrm::toggleHelpTags()
 {
     m_helpTagsOn = !m_helpTagsOn;
+    m_surface->tools().setTagsOn(m_helpTagsOn);
     QAction* entry = m_menu->action(QStringLiteral("mnuHotText"));
     entry->setChecked(m_helpTagsOn);
     entry->setText(

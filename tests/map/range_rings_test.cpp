@@ -109,18 +109,19 @@ TEST(RingClasses, AreBattleshipsCruisersAndDestroyersInTheirColours)
 
 TEST(RingFilters, DrawTheClassOfTheirKeyAndAllClassesWithoutOne)
 {
-    const auto drawn = [](const RingFilter& filter) {
+    const auto drawn = [](std::int16_t on, const char* key) {
+        const MapToggles toggles{.ringFilterOn = on, .ringFilterKey = QLatin1StringView(key)};
         std::string labels;
         for (const RingClass& each : ringClasses) {
-            labels += filter.draws(each) ? each.label.data() : "-";
+            labels += isDrawn(each, toggles) ? each.label.data() : "-";
         }
         return labels;
     };
-    EXPECT_EQ(drawn({.on = false, .key = {}}), "BBCADD");
-    EXPECT_EQ(drawn({.on = false, .key = QStringLiteral("F")}), "BBCADD");
-    EXPECT_EQ(drawn({.on = true, .key = QStringLiteral("B")}), "BB--");
-    EXPECT_EQ(drawn({.on = true, .key = QStringLiteral("C")}), "-CA-");
-    EXPECT_EQ(drawn({.on = true, .key = QStringLiteral("D")}), "--DD");
+    EXPECT_EQ(drawn(0, ""), "BBCADD");
+    EXPECT_EQ(drawn(0, "F"), "BBCADD");
+    EXPECT_EQ(drawn(-1, "B"), "BB--");
+    EXPECT_EQ(drawn(-1, "C"), "-CA-");
+    EXPECT_EQ(drawn(-1, "D"), "--DD");
 }
 
 TEST(RadarRating, HasItsPercentForEachWord)
@@ -317,15 +318,15 @@ TEST(RadarRings, OfAPercentageBeyondSixteenBitsOverflow)
 
 TEST(BothFamilies, DrawTheClassOfTheKeyAlone)
 {
-    const RingFilter destroyers{.on = true, .key = QStringLiteral("D")};
+    const MapToggles destroyers{.ringFilterOn = -1, .ringFilterKey = QStringLiteral("D")};
     EXPECT_THAT(visibilityRings(u"CA", 0, clear(), destroyers, 60),
                 ::testing::ElementsAre(ring(432, yellow, "DD")));
     EXPECT_THAT(radarRings(u"CA", u"EXCELLENT", clear(), destroyers, 60),
                 ::testing::ElementsAre(ring(573, orange, "DD")));
-    const RingFilter cruisers{.on = true, .key = QStringLiteral("C")};
+    const MapToggles cruisers{.ringFilterOn = -1, .ringFilterKey = QStringLiteral("C")};
     EXPECT_THAT(visibilityRings(u"CA", 0, clear(), cruisers, 60),
                 ::testing::ElementsAre(ring(486, green, "CA")));
-    const RingFilter battleships{.on = true, .key = QStringLiteral("B")};
+    const MapToggles battleships{.ringFilterOn = -1, .ringFilterKey = QStringLiteral("B")};
     EXPECT_THAT(radarRings(u"CA", u"EXCELLENT", clear(), battleships, 60),
                 ::testing::ElementsAre(ring(675, brown, "BB")));
 }
@@ -356,8 +357,6 @@ protected:
         m_controls.bind(m_folder.path());
     }
 
-    std::int32_t carried = 0;
-
 private:
     QTemporaryDir m_folder;
     DataControls m_controls;
@@ -373,6 +372,8 @@ protected:
     {
         return gunRadius(catalogue.GunsRang(), QLatin1StringView(shipClass), scale, carried);
     }
+
+    std::int32_t carried = 0;
 };
 
 TEST_F(GunRings, HaveTheRangeOfTheFirstRecordOfTheClassInPixels)
@@ -509,34 +510,36 @@ TEST_F(Training, IsLookedForInTwelveDivisionsOfFourteenShips)
 class RingMarks : public Ranges
 {
 protected:
-    /// All three families by day at 60 yards a pixel.
-    static RingSettings allOn()
+    RingMarks()
     {
-        return {.gunRings = true,
-                .visibilityRings = true,
-                .radarRings = true,
-                .filter = {},
-                .conditions = clear(),
-                .mapScale = 60,
-                .zoomIndex = 4};
+        state.toggles.gunRingsOn = state.toggles.visRingsOn = state.toggles.radarRingsOn = 1;
+        state.view.mapScale = 60;
     }
-    MarkList marksOf(const RingSettings& settings, const std::vector<RingShip>& ships,
-                     const char* profile = "")
+
+    void only(std::int16_t MapToggles::*family)
     {
-        RangeRings rings(settings, Profile::parse(profile), catalogue, carried);
+        state.toggles.gunRingsOn = state.toggles.visRingsOn = state.toggles.radarRingsOn = 0;
+        state.toggles.*family = 1;
+    }
+    MarkList marksOf(const std::vector<PlottedShip>& ships, const char* profile = "")
+    {
+        const Profile parsed = Profile::parse(profile);
+        RangeRings rings(state, conditions, parsed, catalogue);
         MarkList marks;
-        for (const RingShip& ship : ships) {
+        for (const PlottedShip& ship : ships) {
             rings.appendRings(ship, marks);
         }
         return marks;
     }
 
-    static inline const RingShip nelson{.at = {100, 200},
-                                        .side = Side::Blue,
-                                        .type = QStringLiteral("BB"),
-                                        .shipClass = QStringLiteral("Nelson"),
-                                        .shortName = QStringLiteral("Rodney"),
-                                        .radarType = QStringLiteral("Excellent")};
+    /// All three families by day at 60 yards a pixel.
+    MapState state;
+    RingConditions conditions = clear();
+    const PlottedShip nelson{.type = QStringLiteral("BB"),
+                             .shortName = QStringLiteral("Rodney"),
+                             .shipClass = QStringLiteral("Nelson"),
+                             .radarType = QStringLiteral("Excellent"),
+                             .at = {100, 200}};
 };
 
 CircleMark circle(int x, int y, int radius, MapColour colour)
@@ -558,52 +561,48 @@ TEST_F(RingMarks, OfOneShipAreGunThenSightThenRadarEachWithItsLabelAtItsLowerEdg
         circle(100, 200, 675, rust),     text(100, 875, "CA", rust),   circle(100, 200, 637, orange),
         text(100, 837, "DD", orange),
     };
-    EXPECT_TRUE(marksOf(allOn(), {nelson}) == expected);
+    EXPECT_TRUE(marksOf({nelson}) == expected);
 }
 
 TEST_F(RingMarks, OfForceBHaveARedGunRing)
 {
-    RingShip enemy = nelson;
+    PlottedShip enemy = nelson;
     enemy.side = Side::Red;
-    RingSettings guns = allOn();
-    guns.visibilityRings = guns.radarRings = false;
-    EXPECT_TRUE(marksOf(guns, {enemy}) == MarkList{circle(100, 200, 663, 0xFF0000)});
+    only(&MapToggles::gunRingsOn);
+    EXPECT_TRUE(marksOf({enemy}) == MarkList{circle(100, 200, 663, 0xFF0000)});
 }
 
 TEST_F(RingMarks, EachFamilyHasASwitchOfItsOwn)
 {
-    RingSettings none = allOn();
-    none.gunRings = none.visibilityRings = none.radarRings = false;
-    EXPECT_TRUE(marksOf(none, {nelson}).empty());
     for (const auto& [family, first, count] :
-         {std::tuple(&RingSettings::gunRings, circle(100, 200, 663, 0x0000FF), 1U),
-          std::tuple(&RingSettings::visibilityRings, circle(100, 200, 600, white), 6U),
-          std::tuple(&RingSettings::radarRings, circle(100, 200, 750, brown), 6U)}) {
-        RingSettings one = none;
-        one.*family = true;
-        const MarkList marks = marksOf(one, {nelson});
+         {std::tuple(&MapToggles::gunRingsOn, circle(100, 200, 663, 0x0000FF), 1U),
+          std::tuple(&MapToggles::visRingsOn, circle(100, 200, 600, white), 6U),
+          std::tuple(&MapToggles::radarRingsOn, circle(100, 200, 750, brown), 6U)}) {
+        only(family);
+        const MarkList marks = marksOf({nelson});
         ASSERT_EQ(marks.size(), count);
         EXPECT_TRUE(marks.front() == Mark(first));
+        state.toggles.*family = 0;
+        EXPECT_TRUE(marksOf({nelson}).empty());
     }
 }
 
 TEST_F(RingMarks, OfASwitchedOffFamilyAskNeitherCatalogueNorType)
 {
-    RingSettings sight = allOn();
-    sight.gunRings = false;
-    marksOf(sight, {nelson});
-    EXPECT_EQ(carried, 0);
-    RingSettings guns = allOn();
-    guns.visibilityRings = guns.radarRings = false;
-    RingShip carrier = nelson;
+    only(&MapToggles::visRingsOn);
+    marksOf({nelson});
+    EXPECT_EQ(state.gunRangeValue, 0);
+    only(&MapToggles::gunRingsOn);
+    PlottedShip carrier = nelson;
     carrier.type = QStringLiteral("CV");
-    EXPECT_EQ(marksOf(guns, {carrier}).size(), 1U) << "the gun ring does not need the type";
+    EXPECT_EQ(marksOf({carrier}).size(), 1U) << "the gun ring does not need the type";
 }
 
 TEST_F(RingMarks, OfAnUnknownTypeEndWithItsGunRing)
 {
-    RangeRings rings(allOn(), Profile::parse(""), catalogue, carried);
-    RingShip carrier = nelson;
+    const Profile empty;
+    RangeRings rings(state, conditions, empty, catalogue);
+    PlottedShip carrier = nelson;
     carrier.type = QStringLiteral("CV");
     MarkList marks;
     expectError(RuntimeError::SubscriptOutOfRange, [&] { rings.appendRings(carrier, marks); });
@@ -612,10 +611,9 @@ TEST_F(RingMarks, OfAnUnknownTypeEndWithItsGunRing)
 
 TEST_F(RingMarks, CarryNoLabelsAtLevelsNoughtNineAndTen)
 {
-    for (const int zoomIndex : {11, 9, 10}) {
-        RingSettings far = allOn();
-        far.zoomIndex = zoomIndex;
-        const MarkList marks = marksOf(far, {nelson});
+    for (const std::int16_t zoomIndex : std::array<std::int16_t, 3>{11, 9, 10}) {
+        state.view.zoomIndex = zoomIndex;
+        const MarkList marks = marksOf({nelson});
         EXPECT_EQ(marks.size(), 7U);
         for (const Mark& mark : marks) {
             EXPECT_TRUE(std::holds_alternative<CircleMark>(mark)) << zoomIndex;
@@ -625,40 +623,38 @@ TEST_F(RingMarks, CarryNoLabelsAtLevelsNoughtNineAndTen)
 
 TEST_F(RingMarks, WithTheKeyDAreOneYellowOneOrangeAndTheGunRing)
 {
-    RingSettings filtered = allOn();
-    filtered.filter = {.on = true, .key = QStringLiteral("D")};
+    state.toggles.ringFilterOn = -1;
+    state.toggles.ringFilterKey = QStringLiteral("D");
     const MarkList expected{
         circle(100, 200, 663, 0x0000FF), circle(100, 200, 480, yellow), text(100, 680, "DD", yellow),
         circle(100, 200, 637, orange),   text(100, 837, "DD", orange),
     };
-    EXPECT_TRUE(marksOf(filtered, {nelson}) == expected);
+    EXPECT_TRUE(marksOf({nelson}) == expected);
 }
 
 TEST_F(RingMarks, OfAShipWithoutARadarStandAtItWithTheirLabels)
 {
-    RingSettings radar = allOn();
-    radar.gunRings = radar.visibilityRings = false;
-    RingShip blind = nelson;
+    only(&MapToggles::radarRingsOn);
+    PlottedShip blind = nelson;
     blind.radarType = QStringLiteral("INVALID");
     const MarkList expected{
         circle(100, 200, 0, brown), text(100, 200, "BB", brown), circle(100, 200, 0, rust),
         text(100, 200, "CA", rust), circle(100, 200, 0, orange), text(100, 200, "DD", orange),
     };
-    EXPECT_TRUE(marksOf(radar, {blind}) == expected);
+    EXPECT_TRUE(marksOf({blind}) == expected);
 }
 
 TEST_F(RingMarks, TheGunRangeGoesFromShipToShipAndFromRedrawToRedraw)
 {
-    RingSettings guns = allOn();
-    guns.visibilityRings = guns.radarRings = false;
-    RingShip corvette = nelson;
+    only(&MapToggles::gunRingsOn);
+    PlottedShip corvette = nelson;
     corvette.at = {5, 6};
     corvette.shipClass = QStringLiteral("Flower");
-    EXPECT_TRUE(marksOf(guns, {corvette}).empty());
-    EXPECT_TRUE(marksOf(guns, {nelson, corvette}) ==
+    EXPECT_TRUE(marksOf({corvette}).empty());
+    EXPECT_TRUE(marksOf({nelson, corvette}) ==
                 (MarkList{circle(100, 200, 663, 0x0000FF), circle(5, 6, 11, 0x0000FF)}));
-    EXPECT_TRUE(marksOf(guns, {corvette}) == MarkList{circle(5, 6, 0, 0x0000FF)});
-    EXPECT_TRUE(marksOf(guns, {corvette}).empty());
+    EXPECT_TRUE(marksOf({corvette}) == MarkList{circle(5, 6, 0, 0x0000FF)});
+    EXPECT_TRUE(marksOf({corvette}).empty());
 }
 
 constexpr const char* trained = "[DIVISION0]\r\nDIVISIONNAME=Division 1\r\n"
@@ -666,30 +662,27 @@ constexpr const char* trained = "[DIVISION0]\r\nDIVISIONNAME=Division 1\r\n"
 
 TEST_F(RingMarks, NightTrainingCountsAtNightAlone)
 {
-    RingSettings sight = allOn();
-    sight.gunRings = sight.radarRings = false;
-    sight.conditions.visibility = QStringLiteral("40 %");
-    EXPECT_TRUE(marksOf(sight, {nelson}, trained).front() == Mark(circle(100, 200, 240, white)));
-    sight.conditions.day = false;
-    EXPECT_TRUE(marksOf(sight, {nelson}, trained).front() == Mark(circle(100, 200, 360, white)));
-    EXPECT_TRUE(marksOf(sight, {nelson}).front() == Mark(circle(100, 200, 240, white)));
+    only(&MapToggles::visRingsOn);
+    conditions.visibility = QStringLiteral("40 %");
+    EXPECT_TRUE(marksOf({nelson}, trained).front() == Mark(circle(100, 200, 240, white)));
+    conditions.day = false;
+    EXPECT_TRUE(marksOf({nelson}, trained).front() == Mark(circle(100, 200, 360, white)));
+    EXPECT_TRUE(marksOf({nelson}).front() == Mark(circle(100, 200, 240, white)));
 }
 
 TEST_F(RingMarks, NightTrainingHelpsNoRadar)
 {
-    RingSettings radar = allOn();
-    radar.gunRings = radar.visibilityRings = false;
-    radar.conditions.day = false;
-    EXPECT_TRUE(marksOf(radar, {nelson}, trained).front() == Mark(circle(100, 200, 750, brown)));
+    only(&MapToggles::radarRingsOn);
+    conditions.day = false;
+    EXPECT_TRUE(marksOf({nelson}, trained).front() == Mark(circle(100, 200, 750, brown)));
 }
 
 TEST_F(RingMarks, ALabelFarOutOfSightStaysWithinThirtyTwoBits)
 {
-    RingSettings sight = allOn();
-    sight.gunRings = sight.radarRings = false;
-    RingShip far = nelson;
+    only(&MapToggles::visRingsOn);
+    PlottedShip far = nelson;
     far.at.y = std::numeric_limits<std::int32_t>::max() - 10;
-    EXPECT_TRUE(marksOf(sight, {far}).at(1) ==
+    EXPECT_TRUE(marksOf({far}).at(1) ==
                 Mark(text(100, std::numeric_limits<std::int32_t>::max(), "BB", white)));
 }
 

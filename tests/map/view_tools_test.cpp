@@ -64,17 +64,18 @@ TEST(ViewTools, HaveTheirTagsTextsAndWidthsInBothLanguages)
 
 TEST(ViewToggles, StartWithNamesAndScaleLabelsAndWithoutRings)
 {
-    const ViewToggles toggles;
+    const MapToggles toggles;
     EXPECT_EQ(toggles.namesMode, 0);
-    EXPECT_TRUE(toggles.scaleLabelsOn);
-    EXPECT_FALSE(toggles.visRingsOn);
-    EXPECT_FALSE(toggles.gunRingsOn);
-    EXPECT_FALSE(toggles.radarRingsOn);
+    EXPECT_EQ(toggles.scaleLabelsOn, 1);
+    EXPECT_EQ(toggles.visRingsOn, 0);
+    EXPECT_EQ(toggles.gunRingsOn, 0);
+    EXPECT_EQ(toggles.radarRingsOn, 0);
+    EXPECT_EQ(toggles.ringFilterOn, 0);
 }
 
 TEST(ViewToggles, TheNamesNeedFourClicksToComeBackToTheirStart)
 {
-    ViewToggles toggles;
+    MapToggles toggles;
     for (const int mode : {1, 2, 3, 0, 1}) {
         toggle(toggles, Tool::Names);
         EXPECT_EQ(toggles.namesMode, mode);
@@ -83,36 +84,36 @@ TEST(ViewToggles, TheNamesNeedFourClicksToComeBackToTheirStart)
 
 TEST(ViewToggles, EachOfTheOthersFlipsAndFlipsBackAlone)
 {
-    const ViewToggles start;
-    for (const auto& [tool, flag] : {std::pair(Tool::Scale, &ViewToggles::scaleLabelsOn),
-                                     std::pair(Tool::VisibilityRings, &ViewToggles::visRingsOn),
-                                     std::pair(Tool::GunRings, &ViewToggles::gunRingsOn),
-                                     std::pair(Tool::RadarRings, &ViewToggles::radarRingsOn)}) {
-        ViewToggles toggles;
+    const MapToggles start;
+    for (const auto& [tool, flag] : {std::pair(Tool::Scale, &MapToggles::scaleLabelsOn),
+                                     std::pair(Tool::VisibilityRings, &MapToggles::visRingsOn),
+                                     std::pair(Tool::GunRings, &MapToggles::gunRingsOn),
+                                     std::pair(Tool::RadarRings, &MapToggles::radarRingsOn)}) {
+        MapToggles toggles;
         toggle(toggles, tool);
-        ViewToggles flipped = start;
-        flipped.*flag = !(start.*flag);
+        MapToggles flipped = start;
+        flipped.*flag = start.*flag == 0 ? 1 : 0;
         EXPECT_EQ(toggles, flipped);
-        EXPECT_EQ(isOn(toggles, tool), toggles.*flag);
+        EXPECT_EQ(isOn(toggles, tool), toggles.*flag == 1);
         toggle(toggles, tool);
         EXPECT_EQ(toggles, start);
-        EXPECT_EQ(isOn(toggles, tool), start.*flag);
+        EXPECT_EQ(isOn(toggles, tool), start.*flag == 1);
     }
 }
 
 TEST(ViewToggles, OtherToolsChangeNothingAndAreNeverOn)
 {
     for (const Tool tool : {Tool::GridLevel, Tool::ZoomLevel, Tool::Measure, Tool::CenterMap}) {
-        ViewToggles toggles;
+        MapToggles toggles;
         toggle(toggles, tool);
-        EXPECT_EQ(toggles, ViewToggles{});
+        EXPECT_EQ(toggles, MapToggles{});
         EXPECT_FALSE(isOn(toggles, tool));
     }
 }
 
 TEST(ViewToggles, TheNamesAreOnUntilNothingIsShown)
 {
-    for (int mode = 0; mode < 4; ++mode) {
+    for (std::int16_t mode = 0; mode < 4; ++mode) {
         EXPECT_EQ(isOn({.namesMode = mode}, Tool::Names), mode != 3);
     }
 }

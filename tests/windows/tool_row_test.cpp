@@ -40,7 +40,7 @@ protected:
         row.watch(&ruler, ToolRow::Place::Ruler);
         row.watch(&panel, ToolRow::Place::ScalePanel);
         row.leadTabThrough(&map);
-        row.placeCorner({624, 464}, 19, {560, 464});
+        row.placeCorner({624, 464}, 18, {560, 464});
         row.setCaptions(Language::English);
         surface.show();
         surface.activateWindow();
@@ -92,7 +92,7 @@ TEST_F(Row, ToolsAreFortyOnePixelsWideFortyApart)
         EXPECT_EQ(tool(name)->geometry(), QRect(left, 8, 41, 41)) << name;
         left += 40;
     }
-    EXPECT_EQ(tool("Image1")->geometry(), QRect(624, 464, 19, 19));
+    EXPECT_EQ(tool("Image1")->geometry(), QRect(624, 464, 18, 18));
 }
 
 TEST_F(Row, TagsStandBelowTheirToolsHiddenAndYellow)
@@ -250,23 +250,23 @@ TEST_F(Row, ToolsThatAreOnStandPressed)
         return names.join(u' ');
     };
     EXPECT_EQ(pressed(), QStringLiteral("cmdNameTog cmdMapScale"));
-    row.showState({.namesMode = 3, .scaleLabelsOn = false, .gunRingsOn = true}, true);
+    row.showState({.namesMode = 3, .scaleLabelsOn = 0, .gunRingsOn = 1}, true);
     EXPECT_EQ(pressed(), QStringLiteral("cmdGunCircles cmdMeasureTool"));
-    row.showState({.namesMode = 2, .scaleLabelsOn = false, .visRingsOn = true, .radarRingsOn = true}, false);
+    row.showState({.namesMode = 2, .scaleLabelsOn = 0, .visRingsOn = 1, .radarRingsOn = 1}, false);
     EXPECT_EQ(pressed(), QStringLiteral("cmdNameTog cmdVisibCircles cmdRadarCircles"));
 }
 
 TEST_F(Row, PressedAndRaisedToolsLookDifferent)
 {
     const QImage raised = tool("cmdGunCircles")->grab().toImage();
-    row.showState({.gunRingsOn = true}, false);
+    row.showState({.gunRingsOn = 1}, false);
     EXPECT_NE(tool("cmdGunCircles")->grab().toImage(), raised);
 }
 
 TEST_F(Row, EachModeOfTheNamesHasItsPicture)
 {
     std::vector<QImage> seen;
-    for (int mode = 0; mode < 4; ++mode) {
+    for (std::int16_t mode = 0; mode < 4; ++mode) {
         row.showState({.namesMode = mode}, false);
         const QImage picture = tool("cmdNameTog")->grab().toImage();
         EXPECT_THAT(seen, ::testing::Not(::testing::Contains(picture))) << mode;
