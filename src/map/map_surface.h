@@ -7,6 +7,7 @@
 
 #include <array>
 
+class QAbstractButton;
 class QLabel;
 
 namespace torvane {
@@ -57,6 +58,9 @@ public:
 Q_SIGNALS:
     void stepped(int value, torvane::ScrollEvent event);
 
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+
 private:
     int m_valueAtPress = 0;
 };
@@ -73,6 +77,8 @@ public:
     MapBox& map() { return *m_map; }
     MapScrollBar& horizontal() { return *m_horizontal; }
     MapScrollBar& vertical() { return *m_vertical; }
+    /// Never shown: it arms the target area as the menu does.
+    QAbstractButton* targetTool() { return m_targetTool; }
 
     void arrange(const MapLayout& layout);
     void centreBars();
@@ -104,6 +110,7 @@ private:
     QLabel* m_rulerCaption;
     QLabel* m_distance;
     QWidget* m_scalePanel;
+    QAbstractButton* m_targetTool;
 
     PictureBox* m_width = nullptr;
     PictureBox* m_height = nullptr;
