@@ -6,6 +6,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMouseEvent>
+#include <QPushButton>
 #include <QStyle>
 #include <QWheelEvent>
 
@@ -17,10 +18,10 @@ constexpr int scrollBarSize = 18;
 constexpr int mapFontPixels = 11;
 constexpr int rulerLeft = 320;
 // The read-outs: two rows of number, "X", number.
-constexpr QRect scalePanel(424, 4, 219, 40);
-constexpr QRect leftColumn(0, 2, 100, 17);
-constexpr QRect middleColumn(100, 2, 15, 17);
-constexpr QRect rightColumn(115, 2, 102, 17);
+constexpr QRect scalePanel(434, 4, 208, 40);
+constexpr QRect leftColumn(0, 2, 96, 17);
+constexpr QRect middleColumn(96, 2, 14, 17);
+constexpr QRect rightColumn(110, 2, 96, 17);
 constexpr int rowHeight = 18;
 
 QRect lowerRow(QRect place)
@@ -140,6 +141,18 @@ MapScrollBar::MapScrollBar(Qt::Orientation orientation, int change, QWidget* par
     });
 }
 
+// A bar of this platform takes the arrow to the right for a step back.
+void MapScrollBar::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Right) {
+        triggerAction(SliderSingleStepAdd);
+    } else if (event->key() == Qt::Key_Left) {
+        triggerAction(SliderSingleStepSub);
+    } else {
+        QScrollBar::keyPressEvent(event);
+    }
+}
+
 void MapScrollBar::centre()
 {
     const QSignalBlocker quiet(this);
@@ -153,7 +166,8 @@ MapSurface::MapSurface(QWidget* parent)
       m_vertical(new MapScrollBar(Qt::Vertical, vScrollChange, this)),
       m_rulerCaption(new QLabel(this)),
       m_distance(new QLabel(QStringLiteral("0 yds."), this)),
-      m_scalePanel(new QWidget(this))
+      m_scalePanel(new QWidget(this)),
+      m_targetTool(new QPushButton(this))
 {
     setObjectName(QStringLiteral("surface"));
     m_horizontal->setObjectName(QStringLiteral("HScroll1"));
@@ -168,6 +182,8 @@ MapSurface::MapSurface(QWidget* parent)
     m_distance->setAlignment(Qt::AlignCenter);
     m_scalePanel->setObjectName(QStringLiteral("picScaleYards"));
     m_scalePanel->setGeometry(scalePanel);
+    m_targetTool->setObjectName(QStringLiteral("cmdTarget"));
+    m_targetTool->hide();
     makeReadOuts();
     makeTools();
     const MapLayout normal = *mapLayout(WindowState::Normal, {}, {});

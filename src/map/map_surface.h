@@ -7,6 +7,7 @@
 
 #include <array>
 
+class QAbstractButton;
 class QLabel;
 
 namespace torvane {
@@ -59,6 +60,9 @@ public:
 Q_SIGNALS:
     void stepped(int value, torvane::ScrollEvent event);
 
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+
 private:
     int m_valueAtPress = 0;
 };
@@ -76,6 +80,8 @@ public:
     MapScrollBar& horizontal() { return *m_horizontal; }
     MapScrollBar& vertical() { return *m_vertical; }
     ToolRow& tools() { return *m_tools; }
+    /// Never shown: it arms the target area as the menu does.
+    QAbstractButton* targetTool() { return m_targetTool; }
 
     void arrange(const MapLayout& layout);
     void centreBars();
@@ -102,6 +108,7 @@ private:
     QLabel* m_distance;
     QWidget* m_scalePanel;
     ToolRow* m_tools = nullptr;
+    QAbstractButton* m_targetTool;
 
     PictureBox* m_width = nullptr;
     PictureBox* m_height = nullptr;

@@ -16,6 +16,7 @@
 #include "shell/splash_frm.h"
 #include "store/working_tables.h"
 
+#include <QAbstractButton>
 #include <QAction>
 #include <QFileInfo>
 #include <QKeyEvent>
@@ -98,6 +99,7 @@ void MainFrm::connectMap()
        [this](int value, ScrollEvent event) { m_map->scrolledVertically(value, event, mapWindowState()); });
     on(m_menu->action(QStringLiteral("mnuTargetBox")), &QAction::triggered,
        [this] { m_map->armTargetArea(); });
+    on(m_surface->targetTool(), &QAbstractButton::clicked, [this] { m_map->armTargetArea(); });
     for (const bool blue : {true, false}) {
         for (int division = 1; division <= divisionsPerSide; ++division) {
             const RepositionRow& row = repositionRow(blue, division);
