@@ -22,11 +22,13 @@ namespace torvane::testing {
 class MapFixture : public EditorFixture
 {
 protected:
-    // The class that the ships of these tests belong to; 366 feet are 122 yards.
+    // The class that the ships of these tests belong to; 366 feet are 122 yards. Guns reach further than
+    // sight.
     void SetUp() override
     {
         CatalogueFile file(workFile(shipDatabaseFile));
         file.addClass(QStringLiteral("Tribal"), {{QStringLiteral("length"), QStringLiteral("366")}});
+        file.addGunRange(QStringLiteral("Tribal"), QStringLiteral("30650"));
     }
 
     MainFrm& main() { return editor().mainFrm(); }

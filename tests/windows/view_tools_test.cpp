@@ -35,25 +35,17 @@ protected:
     {
         addDivision(0, "Blue", 1, 1);
         set(shipSection(0, 0), "TYPE", QString::fromLatin1(type));
-        set(shipSection(0, 0), "CLASS", QStringLiteral("Kent"));
         set(shipSection(0, 0), "RADARTYPE", QString::fromLatin1(radar));
     }
-    void setConditions(const char* visibility, const char* radar, const char* sea, const char* rain)
+    void setConditions(const char* visibility, const char* radar, const char* seaState, const char* rain)
     {
         EnvironmentValues values = editor().enviroFrm().values();
         values.visibility = QLatin1StringView(visibility);
         values.radar = QLatin1StringView(radar);
-        values.seaState = QLatin1StringView(sea);
+        values.seaState = QLatin1StringView(seaState);
         values.rain = QLatin1StringView(rain);
         editor().enviroFrm().show(values);
     }
-    void SetUp() override
-    {
-        MapFixture::SetUp();
-        CatalogueFile(workFile(shipDatabaseFile))
-            .addGunRange(QStringLiteral("Kent"), QStringLiteral("30650"));
-    }
-
     const QColor sea{1, 176, 235};
     const QColor white{255, 255, 255};
     const QColor green{0, 255, 0};
