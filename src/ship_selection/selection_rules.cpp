@@ -49,15 +49,16 @@ void ShipSelection::open(Side side, const QString& caption, const QString& word)
     close();
     m_side = side;
     m_number = divisionNumberOf(caption);
+    QStringList lines;
     for (int number = 1; number <= divisionFiles; ++number) {
         const QString file = m_files.divisionFile(side, number);
         if (caption == word + u' ' + QString::number(number) && QFileInfo::exists(file)) {
-            const QStringList lines = m_files.read(file);
+            lines = m_files.read(file);
             toInt16(static_cast<double>(lines.size()));
-            m_entries = lines;
         }
     }
     countForces();
+    m_entries = lines;
 }
 
 void ShipSelection::countForces()

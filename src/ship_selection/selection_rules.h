@@ -46,7 +46,7 @@ public:
 
     /// Starts with the ships of a division, by the caption that names it, and counts those of each force. The
     /// caption is `word`, a blank and 1 to 6; any other has no ships yet. Throws RuntimeError for a file that
-    /// can't be read, and Overflow beyond 16 bits.
+    /// can't be read, and Overflow beyond 16 bits, with an empty list.
     void open(Side side, const QString& caption, const QString& word);
     /// Counts the ships of each force in its Division files.
     void countForces();
