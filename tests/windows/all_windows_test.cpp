@@ -5,6 +5,7 @@
 #include "shell/commands.h"
 #include "shell/main_frm.h"
 #include "shell/splash_frm.h"
+#include "ship_selection/ship_dbase_frm.h"
 #include "support/editor_fixture.h"
 
 #include <QAbstractButton>
@@ -31,6 +32,7 @@ const Subject subjects[] = {
     {"OverviewFrm", [](Editor& editor) -> Form& { return editor.overviewFrm(); }},
     {"EnviroFrm", [](Editor& editor) -> Form& { return editor.enviroFrm(); }},
     {"CreateDivisionFrm", [](Editor& editor) -> Form& { return editor.createDivisionFrm(); }},
+    {"ShipDBaseFrm", [](Editor& editor) -> Form& { return editor.shipDBaseFrm(); }},
 };
 
 // What Qt makes for itself inside its own controls carries Qt's names, or none inside a control.
