@@ -27,6 +27,9 @@ public:
     QLabel* const lblside = hiddenControl<QLabel>("lblside");
     /// The navy of the force, as the overview names it.
     QLabel* const lblForceSide = hiddenControl<QLabel>("lblForceSide");
+    QLabel* const LblPicMap = hiddenControl<QLabel>("LblPicMap");
+    /// Tells where the map last placed the division.
+    void showPlacement(const QString& text) { LblPicMap->setText(text); }
     /// `chkDiv1` to `chkDiv12`: which division an edit is about.
     std::array<QCheckBox*, 12> chkDiv{};
 

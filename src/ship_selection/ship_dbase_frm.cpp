@@ -120,7 +120,7 @@ void ShipDBaseFrm::onActivate()
 
 void ShipDBaseFrm::openDivision()
 {
-    const Hourglass hourglass;
+    const HourglassPointer hourglass;
     const CreateDivisionFrm& dialog = m_editor.createDivisionFrm();
     m_selection.open(sideOfLabel(dialog.lblside->text()), dialog.divisionCaption(),
                      mainText(MainText::Division, m_editor.language()));
@@ -151,14 +151,14 @@ void ShipDBaseFrm::selectForceNavy()
 
 void ShipDBaseFrm::filterBy(const char* navy)
 {
-    const Hourglass hourglass;
+    const HourglassPointer hourglass;
     refill([&] { m_browser.filterNavy(QString::fromLatin1(navy)); });
     markSelectedShips();
 }
 
 void ShipDBaseFrm::sortBy(ShipColumn column)
 {
-    const Hourglass hourglass;
+    const HourglassPointer hourglass;
     refill([&] { m_browser.sortShips(column); });
     markSelectedShips();
 }
@@ -237,7 +237,7 @@ void ShipDBaseFrm::remove()
 
 void ShipDBaseFrm::clearAll()
 {
-    const Hourglass hourglass;
+    const HourglassPointer hourglass;
     m_selection.clear();
     showSelection();
 }
