@@ -3,6 +3,7 @@
 #include "platform/number_text.h"
 #include "platform/runtime_error.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace torvane {
@@ -56,6 +57,15 @@ QString steppedPercent(const QString& caption, Step step)
 QString steppedFireLevel(const QString& caption, Step step)
 {
     return textOf(steppedRound(numberValue(caption), highestFireLevel, step));
+}
+
+double shareShown(const QString& caption, double full)
+{
+    try {
+        return std::clamp(numberValue(caption) / full, 0.0, 1.0);
+    } catch (const RuntimeError&) {
+        return 1;
+    }
 }
 
 double finiteOf(const QString& text, double value)

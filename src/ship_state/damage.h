@@ -28,6 +28,9 @@ QString steppedPercent(const QString& caption, Step step);
 /// One level on or back; beyond 10 comes 0, below 0 comes 10.
 QString steppedFireLevel(const QString& caption, Step step);
 
+/// How much of the full amount a caption says, from 0 to 1, for a bar beside it. Never throws.
+double shareShown(const QString& caption, double full);
+
 /// Gives a number back that was computed from a stored text or a caption. Throws Overflow, naming that text,
 /// if it is beyond all numbers.
 double finiteOf(const QString& text, double value);

@@ -30,31 +30,32 @@ inline constexpr std::array<TurretArc, 8> turretArcs{{
 /// A place at which a class may have a main gun turret.
 struct Turret
 {
+    char letter;
     QStringView classField; ///< above 0: the class has it
     DamageBox damage;
     const char* frame;
 };
 inline constexpr std::array<Turret, 20> turrets{{
-    {u"TurA", {"chkMG_TUR_A", u"MGTADAMAGE", inBoth("A:")}, "Frame3"},
-    {u"TurB", {"chkMG_TUR_B", u"MGTBDAMAGE", inBoth("B:")}, "Frame3"},
-    {u"TurC", {"chkMG_TUR_C", u"MGTCDAMAGE", inBoth("C:")}, "Frame3"},
-    {u"TurD", {"chkMG_TUR_D", u"MGTDDAMAGE", inBoth("D:")}, "Frame5"},
-    {u"TurE", {"chkMG_TUR_E", u"MGTEDAMAGE", inBoth("E:")}, "Frame5"},
-    {u"TurG", {"chkMG_TUR_G", u"MGTGDAMAGE", inBoth("G:")}, "Frame7"},
-    {u"TurH", {"chkMG_TUR_H", u"MGTHDAMAGE", inBoth("H:")}, "Frame7"},
-    {u"TurI", {"chkMG_TUR_I", u"MGTIDAMAGE", inBoth("I:")}, "Frame8"},
-    {u"TurJ", {"chkMG_TUR_J", u"MGTJDAMAGE", inBoth("J:")}, "Frame8"},
-    {u"TurL", {"chkMG_TUR_L", u"MGTLDAMAGE", inBoth("L:")}, "fraBroadsideport"},
-    {u"TurM", {"chkMG_TUR_M", u"MGTMDAMAGE", inBoth("M:")}, "Frame12"},
-    {u"TurN", {"chkMG_TUR_N", u"MGTNDAMAGE", inBoth("N:")}, "fraBroadsideport"},
-    {u"TurO", {"chkMG_TUR_O", u"MGTODAMAGE", inBoth("O:")}, "fraBroadsideport"},
-    {u"TurQ", {"chkMG_TUR_Q", u"MGTQDAMAGE", inBoth("Q:")}, "Frame12"},
-    {u"TurR", {"chkMG_TUR_R", u"MGTRDAMAGE", inBoth("R:")}, "Frame12"},
-    {u"TurT", {"chkMG_TUR_T", u"MGTTDAMAGE", inBoth("T:")}, "Frame6"},
-    {u"TurU", {"chkMG_TUR_U", u"MGTUDAMAGE", inBoth("U:")}, "Frame6"},
-    {u"TurX", {"chkMG_TUR_X", u"MGTXDAMAGE", inBoth("X:")}, "Frame4"},
-    {u"TurY", {"chkMG_TUR_Y", u"MGTYDAMAGE", inBoth("Y:")}, "Frame4"},
-    {u"TurZ", {"chkMG_TUR_Z", u"MGTZDAMAGE", inBoth("Z:")}, "Frame4"},
+    {'A', u"TurA", {"chkMG_TUR_A", u"MGTADAMAGE", inBoth("A:")}, "Frame3"},
+    {'B', u"TurB", {"chkMG_TUR_B", u"MGTBDAMAGE", inBoth("B:")}, "Frame3"},
+    {'C', u"TurC", {"chkMG_TUR_C", u"MGTCDAMAGE", inBoth("C:")}, "Frame3"},
+    {'D', u"TurD", {"chkMG_TUR_D", u"MGTDDAMAGE", inBoth("D:")}, "Frame5"},
+    {'E', u"TurE", {"chkMG_TUR_E", u"MGTEDAMAGE", inBoth("E:")}, "Frame5"},
+    {'G', u"TurG", {"chkMG_TUR_G", u"MGTGDAMAGE", inBoth("G:")}, "Frame7"},
+    {'H', u"TurH", {"chkMG_TUR_H", u"MGTHDAMAGE", inBoth("H:")}, "Frame7"},
+    {'I', u"TurI", {"chkMG_TUR_I", u"MGTIDAMAGE", inBoth("I:")}, "Frame8"},
+    {'J', u"TurJ", {"chkMG_TUR_J", u"MGTJDAMAGE", inBoth("J:")}, "Frame8"},
+    {'L', u"TurL", {"chkMG_TUR_L", u"MGTLDAMAGE", inBoth("L:")}, "fraBroadsideport"},
+    {'M', u"TurM", {"chkMG_TUR_M", u"MGTMDAMAGE", inBoth("M:")}, "Frame12"},
+    {'N', u"TurN", {"chkMG_TUR_N", u"MGTNDAMAGE", inBoth("N:")}, "fraBroadsideport"},
+    {'O', u"TurO", {"chkMG_TUR_O", u"MGTODAMAGE", inBoth("O:")}, "fraBroadsideport"},
+    {'Q', u"TurQ", {"chkMG_TUR_Q", u"MGTQDAMAGE", inBoth("Q:")}, "Frame12"},
+    {'R', u"TurR", {"chkMG_TUR_R", u"MGTRDAMAGE", inBoth("R:")}, "Frame12"},
+    {'T', u"TurT", {"chkMG_TUR_T", u"MGTTDAMAGE", inBoth("T:")}, "Frame6"},
+    {'U', u"TurU", {"chkMG_TUR_U", u"MGTUDAMAGE", inBoth("U:")}, "Frame6"},
+    {'X', u"TurX", {"chkMG_TUR_X", u"MGTXDAMAGE", inBoth("X:")}, "Frame4"},
+    {'Y', u"TurY", {"chkMG_TUR_Y", u"MGTYDAMAGE", inBoth("Y:")}, "Frame4"},
+    {'Z', u"TurZ", {"chkMG_TUR_Z", u"MGTZDAMAGE", inBoth("Z:")}, "Frame4"},
 }};
 
 /// One kind of round in one magazine, shown in percent of what the class carries.

@@ -91,6 +91,15 @@ TEST(PercentStepper, TakesTheFirstThreeCharactersRounded)
     EXPECT_EQ(steppedPercent(QString(), Step::Down), u"100 %"_s);
 }
 
+TEST(Share, OfABarStaysBetween0And1)
+{
+    EXPECT_DOUBLE_EQ(shareShown(u"66.5 %"_s, 100), 0.665);
+    EXPECT_DOUBLE_EQ(shareShown(u"150 %"_s, 100), 1);
+    EXPECT_DOUBLE_EQ(shareShown(u"-5 %"_s, 100), 0);
+    EXPECT_DOUBLE_EQ(shareShown(u"INVALID"_s, 10), 0);
+    EXPECT_DOUBLE_EQ(shareShown(u"1E999"_s, 10), 1);
+}
+
 TEST(FireLevel, GoesRoundBetween0And10)
 {
     EXPECT_EQ(steppedFireLevel(u"9"_s, Step::Up), u"10"_s);
