@@ -34,7 +34,8 @@ std::size_t turretOf(char letter)
 } // namespace
 
 MainGunsPage::MainGunsPage(ShipData& shipData, QWidget* parent)
-    : ShipDataPage(shipData, QLatin1StringView("fraMainGun"), parent), m_ui(std::make_unique<Ui::MainGunsPage>())
+    : ShipDataPage(shipData, QLatin1StringView("fraMainGun"), parent),
+      m_ui(std::make_unique<Ui::MainGunsPage>())
 {
     m_ui->setupUi(this);
     for (const TurretPlace& place : places) {
@@ -56,9 +57,17 @@ MainGunsPage::~MainGunsPage() = default;
 
 void MainGunsPage::showClassTurrets()
 {
+    for (const TurretArc& arc : turretArcs) {
+        findChild<QGroupBox*>(QLatin1StringView(arc.frame))->setEnabled(false);
+    }
     for (std::size_t i = 0; i < turrets.size(); ++i) {
-        findChild<QCheckBox*>(QLatin1StringView(turrets.at(i).damage.box))
-            ->setVisible(m_data.limits.hasTurret.at(i));
+        const bool has = m_data.limits.hasTurret.at(i);
+        auto* box = findChild<QCheckBox*>(QLatin1StringView(turrets.at(i).damage.box));
+        box->setVisible(has);
+        if (has) {
+            // An arc without turrets looks unused.
+            box->parentWidget()->setEnabled(true);
+        }
     }
 }
 

@@ -15,17 +15,18 @@ namespace {
 
 constexpr int countCharacters = 8;
 
-/// Where the guns stand on the plan, in the order of their table.
+/// Where the guns stand on the plan, from the bow and port before starboard, which is also the order of the
+/// tab key.
 struct Place
 {
+    std::size_t gun; ///< in their table
     int row;
     int column;
 };
-constexpr std::array<Place, secondaryGuns.size()> places{{{0, 1}, {2, 1}, {1, 0}, {1, 2}}};
-constexpr Place magazinePlace{1, 1};
-/// In the order of the tab key: from the bow, port before starboard, the magazine between them.
-constexpr std::array<std::size_t, 2> beforeMagazine{0, 2};
-constexpr std::array<std::size_t, 2> afterMagazine{3, 1};
+constexpr std::array<Place, secondaryGuns.size()> places{{{0, 0, 2}, {2, 1, 1}, {3, 1, 3}, {1, 2, 2}}};
+constexpr int centreLine = 2;
+constexpr int outboard[] = {0, 4}; // columns left and right of the ship
+constexpr int deckWidth = 170;
 constexpr std::size_t secondaryMagazine = 2;
 
 } // namespace
@@ -35,29 +36,26 @@ SecondaryPage::SecondaryPage(ShipData& shipData, QWidget* parent)
 {
     auto* column = new QVBoxLayout(this);
     auto* plan = named<ShipPlan>("secondaryPlan", this);
-    column->addWidget(plan);
+    column->addWidget(plan, 1);
     auto* grid = new QGridLayout(plan);
-    grid->setVerticalSpacing(18);
-    for (const std::size_t gun : beforeMagazine) {
-        addCount(grid, gun);
+    for (const Place& place : places) {
+        grid->addWidget(makeCount(place.gun, plan), place.row, place.column, Qt::AlignCenter);
+        grid->setRowStretch(place.row, 1);
     }
-    auto* frame = named<QFrame>("fraSecondaryMagazine", plan);
-    frame->setFrameShape(QFrame::StyledPanel);
-    grid->addWidget(frame, magazinePlace.row, magazinePlace.column, Qt::AlignCenter);
-    addMagazine(new QGridLayout(frame), secondaryMagazine);
-    for (const std::size_t gun : afterMagazine) {
-        addCount(grid, gun);
-    }
-    for (int side = 0; side < grid->columnCount(); ++side) {
+    grid->setColumnMinimumWidth(centreLine, deckWidth);
+    for (const int side : outboard) {
         grid->setColumnStretch(side, 1);
-        grid->setRowStretch(side, 1);
     }
+    auto* frame = named<QFrame>("fraSecondaryMagazine", this);
+    frame->setFrameShape(QFrame::StyledPanel);
+    column->addWidget(frame, 0, Qt::AlignHCenter);
+    addMagazine(new QGridLayout(frame), secondaryMagazine);
 }
 
-void SecondaryPage::addCount(QGridLayout* plan, std::size_t gun)
+QWidget* SecondaryPage::makeCount(std::size_t gun, QWidget* plan)
 {
     const SecondaryGunRow& row = secondaryGuns.at(gun);
-    auto* group = new QWidget(plan->parentWidget());
+    auto* group = new QWidget(plan);
     group->setObjectName(QLatin1StringView(row.countLabel) + QStringLiteral("Place"));
     auto* cell = new QGridLayout(group);
     m_counts.at(gun) = {.label = named(row.captionLabel, group),
@@ -70,11 +68,11 @@ void SecondaryPage::addCount(QGridLayout* plan, std::size_t gun)
     cell->addWidget(count.label, 0, 0, 1, 2, Qt::AlignHCenter);
     cell->addWidget(count.count, 1, 0);
     cell->addWidget(count.button, 1, 1);
-    plan->addWidget(group, places.at(gun).row, places.at(gun).column, Qt::AlignCenter);
     addButton(count.button, [this, gun] {
         QString& shown = m_data.condition.secondaryGunCounts.at(gun);
         shown = steppedGunCount(shown, m_data.limits.secondaryGunCounts.at(gun));
     });
+    return group;
 }
 
 void SecondaryPage::showCondition()

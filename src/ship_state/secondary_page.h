@@ -6,7 +6,7 @@
 
 namespace torvane {
 
-/// The secondary guns where they stand on the ship's plan, and their magazine amidships.
+/// The secondary guns where they stand on the ship's plan, and their magazine below.
 class SecondaryPage : public ShipDataPage
 {
     Q_OBJECT
@@ -24,7 +24,7 @@ private:
         ValueLabel* count;
         StepButton* button;
     };
-    void addCount(QGridLayout* plan, std::size_t gun);
+    QWidget* makeCount(std::size_t gun, QWidget* plan);
 
     std::array<Count, secondaryGuns.size()> m_counts{};
 };

@@ -3,34 +3,36 @@
 #include <QPainter>
 #include <QPainterPath>
 
+#include <algorithm>
+
 namespace torvane {
 
 namespace {
 
-// Of the plan's width and height.
-constexpr double beam = 0.62;
-constexpr double bowLength = 0.34;
-constexpr double sternLength = 0.12;
-constexpr double sternBeam = 0.34;
-constexpr int deckShade = 104; // percent of the window's lightness
+constexpr double beam = 0.74; // of the length, wide for a ship: the controls stand inside
+constexpr double bowLength = 0.4;
+constexpr double sternLength = 0.16;
+constexpr double transom = 0.5; // of the beam
+constexpr int deckShade = 105;  // percent of the window's darkness
 
 QPainterPath hull(const QRectF& plan)
 {
     const double middle = plan.center().x();
-    const double side = plan.width() * beam / 2;
-    const double transom = plan.width() * sternBeam / 2;
-    const double shoulder = plan.top() + plan.height() * bowLength;
-    const double quarter = plan.bottom() - plan.height() * sternLength;
+    const double length = plan.height();
+    const double side = std::min(plan.width(), length * beam) / 2;
+    const double stern = side * transom;
+    const double shoulder = plan.top() + length * bowLength;
+    const double quarter = plan.bottom() - length * sternLength;
     QPainterPath path(QPointF(middle, plan.top()));
-    path.cubicTo(middle + side * 0.55, plan.top() + plan.height() * 0.1, middle + side,
-                 shoulder - plan.height() * 0.1, middle + side, shoulder);
+    path.cubicTo(middle + side * 0.7, plan.top() + length * 0.12, middle + side, shoulder - length * 0.12,
+                 middle + side, shoulder);
     path.lineTo(middle + side, quarter);
-    path.quadTo(middle + side, plan.bottom(), middle + transom, plan.bottom());
-    path.lineTo(middle - transom, plan.bottom());
+    path.quadTo(middle + side, plan.bottom(), middle + stern, plan.bottom());
+    path.lineTo(middle - stern, plan.bottom());
     path.quadTo(middle - side, plan.bottom(), middle - side, quarter);
     path.lineTo(middle - side, shoulder);
-    path.cubicTo(middle - side, shoulder - plan.height() * 0.1, middle - side * 0.55,
-                 plan.top() + plan.height() * 0.1, middle, plan.top());
+    path.cubicTo(middle - side, shoulder - length * 0.12, middle - side * 0.7, plan.top() + length * 0.12,
+                 middle, plan.top());
     return path;
 }
 

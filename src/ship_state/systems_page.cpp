@@ -29,7 +29,8 @@ constexpr std::size_t searchlights = 4;
 } // namespace
 
 SystemsPage::SystemsPage(ShipData& shipData, QWidget* parent)
-    : ShipDataPage(shipData, QLatin1StringView("fraSystems"), parent), m_ui(std::make_unique<Ui::SystemsPage>())
+    : ShipDataPage(shipData, QLatin1StringView("fraSystems"), parent),
+      m_ui(std::make_unique<Ui::SystemsPage>())
 {
     m_ui->setupUi(this);
     for (std::size_t row = 0; row < repairRows.size(); ++row) {
