@@ -28,25 +28,25 @@ struct ListWord
 
 // Two entries of this list are not the words that stand for what is stored: picked, they reach the profile in
 // German. Kept.
-inline constexpr std::array<ListWord, 4> crewQualities{{
+inline constexpr std::array<ListWord, 4> crewQualityWords{{
     {"Green", "Unerfahren", "Anfänger"},
     {"Average", "Durchschnittlich"},
     {"Veteran", "Erfahren", "Veteran"},
     {"Elite", "Elite"},
 }};
-inline constexpr std::array<ListWord, 4> crewFatigues{{
+inline constexpr std::array<ListWord, 4> crewFatigueWords{{
     {"Fatigued", "Erschöpft"},
     {"Tired", "Müde"},
     {"Normal", "Normal"},
     {"Fresh", "Frisch"},
 }};
-inline constexpr std::array<ListWord, 4> nightTrainings{{
+inline constexpr std::array<ListWord, 4> nightTrainingWords{{
     {"Poor", "Schlecht"},
     {"Average", "Durchschnittlich"},
     {"Good", "Gut"},
     {"Expert", "Experte"},
 }};
-inline constexpr std::array<ListWord, 6> radarQualities{{
+inline constexpr std::array<ListWord, 6> radarQualityWords{{
     {"None", "Keine"},
     {"Poor", "Schlecht"},
     {"Average", "Durchschnittlich"},
@@ -54,7 +54,7 @@ inline constexpr std::array<ListWord, 6> radarQualities{{
     {"Excellent", "Ausgezeichnet"},
     {"Superb", "GroBartig"},
 }};
-inline constexpr std::array<ListWord, 3> rudderPositions{{
+inline constexpr std::array<ListWord, 3> rudderWords{{
     {"Port", "Backbord"},
     {"Center", "Mitte"},
     {"Strb", "Steuerbord"},
@@ -70,16 +70,13 @@ struct ListRow
     std::span<const ListWord> words;
 };
 inline constexpr std::array<ListRow, 4> crewLists{{
-    {"Label65", {"Crew Quality", "Besatzungsqualität"}, "CmbCrewQ", u"CREWQUALITY", crewQualities},
-    {"Label66", {"Crew Fatigue", "Erschöpfung"}, "CmbCrewFati", u"CREWFATIGUE", crewFatigues},
-    {"Label38", {"Night Training", "Nachtgefecht"}, "CmbNightTrain", u"NIGHTTRAINING", nightTrainings},
-    {"Label67", {"Radar Quality", "Radarqualität"}, "Combo1", u"RADARTYPE", radarQualities},
+    {"Label65", {"Crew Quality", "Besatzungsqualität"}, "CmbCrewQ", u"CREWQUALITY", crewQualityWords},
+    {"Label66", {"Crew Fatigue", "Erschöpfung"}, "CmbCrewFati", u"CREWFATIGUE", crewFatigueWords},
+    {"Label38", {"Night Training", "Nachtgefecht"}, "CmbNightTrain", u"NIGHTTRAINING", nightTrainingWords},
+    {"Label67", {"Radar Quality", "Radarqualität"}, "Combo1", u"RADARTYPE", radarQualityWords},
 }};
-inline constexpr ListRow rudderList{"Label70",
-                                    {"Maneuver Dir", "Manöverrichtung"},
-                                    "cmbManeuver",
-                                    u"MANUEVERSYSTEMDIRECTION",
-                                    rudderPositions};
+inline constexpr ListRow rudderList{
+    "Label70", {"Maneuver Dir", "Manöverrichtung"}, "cmbManeuver", u"MANUEVERSYSTEMDIRECTION", rudderWords};
 
 /// The entries of a list, in order.
 QStringList entriesOf(const ListRow& list, Language language);

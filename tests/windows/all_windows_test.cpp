@@ -7,6 +7,7 @@
 #include "shell/commands.h"
 #include "shell/main_frm.h"
 #include "shell/splash_frm.h"
+#include "ship_state/ship_data_frm.h"
 #include "support/editor_fixture.h"
 
 #include <QAbstractButton>
@@ -35,6 +36,7 @@ const Subject subjects[] = {
     {"CreateDivisionFrm", [](Editor& editor) -> Form& { return editor.createDivisionFrm(); }},
     {"ZoomLevelFrm", [](Editor& editor) -> Form& { return editor.zoomLevelFrm(); }},
     {"GridLevelFrm", [](Editor& editor) -> Form& { return editor.gridLevelFrm(); }},
+    {"ShipDataFrm", [](Editor& editor) -> Form& { return editor.shipDataFrm(); }},
 };
 
 // What Qt makes for itself inside its own controls carries Qt's names, or none inside a control.

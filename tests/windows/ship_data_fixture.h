@@ -1,26 +1,28 @@
 #pragma once
 
-#include "platform/list_combo.h"
 #include "platform/step_button.h"
 #include "shell/main_frm.h"
 #include "shell/main_menu.h"
 #include "ship_state/ship_data_frm.h"
 #include "support/catalogue_file.h"
 #include "support/editor_fixture.h"
+#include "support/lists.h"
 
 #include <QAction>
 #include <QCheckBox>
 #include <QGroupBox>
 #include <QPushButton>
+#include <QStackedWidget>
 #include <QTabBar>
+#include <QTest>
 
 namespace torvane::testing {
 
 /// Runs with a small catalogue and a scenario, in which ships are opened through the Edit Ship menu.
-class ShipData : public EditorFixture
+class ShipDialog : public EditorFixture
 {
 protected:
-    ShipData()
+    ShipDialog()
     {
         CatalogueFile file(workFile(QStringLiteral("ShipDatabase.mdb")));
         file.addShip("Exeter", "Exeter", "CA", "York", "RN");
@@ -29,12 +31,25 @@ protected:
         file.addShip("Duncan RN", "Duncan", "DD", "D class leader", "RN");
         file.addShip("Duncan USN", "Duncan", "DD", "Benson", "USN");
         file.addShip("Monster", "Monster", "BB", "Too much", "RN");
-        file.addClass("York", {{"f", "2000"}, {"g", "75"},  {"h", "100"}, {"i", "120"}, {"j", "50"},
-                               {"l", "400"},  {"m", "500"}, {"o", "4"},   {"p", "2"},   {"q", "6"},
-                               {"r", "8"},    {"t", "200"}, {"u", "80"},  {"v", "40"},  {"TurA", "2"},
-                               {"TurB", "2"}, {"TurC", "0.0"}});
-        file.addClass("Deutschland", {{"f", "3000"}, {"g", "600"}, {"h", "10"}, {"o", "1"}, {"TurA", "3"},
-                                      {"TurZ", "3"}});
+        file.addClass("York", {{"f", "2000"},
+                               {"g", "75"},
+                               {"h", "100"},
+                               {"i", "120"},
+                               {"j", "50"},
+                               {"l", "400"},
+                               {"m", "500"},
+                               {"o", "4"},
+                               {"p", "2"},
+                               {"q", "6"},
+                               {"r", "8"},
+                               {"t", "200"},
+                               {"u", "80"},
+                               {"v", "40"},
+                               {"TurA", "2"},
+                               {"TurB", "2"},
+                               {"TurC", "0.0"}});
+        file.addClass("Deutschland",
+                      {{"f", "3000"}, {"g", "600"}, {"h", "10"}, {"o", "1"}, {"TurA", "3"}, {"TurZ", "3"}});
         file.addClass("Nothing");
         file.addClass("Too much", {{"o", "40000"}});
     }
@@ -49,8 +64,6 @@ protected:
     QGroupBox* frame(const char* name) { return control<QGroupBox>(dialog(), QLatin1StringView(name)); }
     QTabBar* tabs() { return control<QTabBar>(dialog(), QStringLiteral("TabStrip1")); }
     QString shown(const char* name) { return label(name)->text(); }
-    /// A caption without the sign that marks its mnemonic.
-    static QString plain(QString caption) { return caption.remove(QLatin1Char('&')); }
 
     /// Puts the record of a ship of the catalogue into the scenario, as a division does.
     void putShip(const QString& name, const QString& section = QStringLiteral("DIVISION0SHIP0"))
@@ -103,8 +116,21 @@ protected:
         settle();
         ASSERT_EQ(tabs()->currentIndex(), page);
     }
-    void press(const char* name) { click(button(name)); }
-    void tick(const char* name) { click(box(name)); }
+    /// Turns to the page of a control, where a user sees it.
+    template <typename Control>
+    Control* onItsPage(Control* control)
+    {
+        const auto* pages = torvane::testing::control<QStackedWidget>(dialog(), QStringLiteral("pages"));
+        for (int page = 0; page < pages->count(); ++page) {
+            if (pages->widget(page)->isAncestorOf(control) && page != tabs()->currentIndex()) {
+                turnTo(page);
+            }
+        }
+        EXPECT_TRUE(control->isVisible()) << control->objectName().toStdString();
+        return control;
+    }
+    void press(const char* name) { click(onItsPage(button(name))); }
+    void tick(const char* name) { click(onItsPage(box(name))); }
 };
 
 inline constexpr int generalPage = 0;
