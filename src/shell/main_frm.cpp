@@ -9,6 +9,7 @@
 #include "shell/about_frm.h"
 #include "shell/captions.h"
 #include "shell/commands.h"
+#include "shell/edit_ship_commands.h"
 #include "shell/editor.h"
 #include "shell/main_menu.h"
 #include "shell/new_scenario.h"
@@ -84,6 +85,9 @@ void MainFrm::connectCommands()
         m_editor.services().helpViewer.showContents(m_editor.paths().workDir +
                                                     QStringLiteral("SE_README.HLP"));
     });
+    for (const QString& entry : editShipEntries()) {
+        on(m_menu->action(entry), &QAction::triggered, [this, entry] { editShip(m_editor, entry); });
+    }
 }
 
 void MainFrm::connectMap()
