@@ -146,8 +146,7 @@ void MainFrm::connectCommands()
     command("mnuHotText", [this] { toggleHelpTags(); });
     command("mnuAbout", [this] { showAbout(); });
     command("mnuHelpTopics", [this] {
-        m_editor.services().helpViewer.showContents(m_editor.paths().workDir +
-                                                    QStringLiteral("SE_README.HLP"));
+        m_editor.services().helpViewer.showContents(m_editor.paths().workDir + helpFileName);
     });
 }
 
