@@ -19,8 +19,8 @@ const QString styleText = QStringLiteral("h1 { font-size: x-large; margin-bottom
                                          "h2 { font-size: large; margin-top: 18px; margin-bottom: 4px; }"
                                          "p, ul, ol { margin-top: 4px; margin-bottom: 8px; }"
                                          "li { margin-bottom: 3px; }"
-                                         "table { border-collapse: collapse; border-color: %1;"
-                                         " margin-top: 4px; margin-bottom: 10px; }"
+                                         "table { border-collapse: collapse; margin-top: 4px; margin-bottom: 10px; }"
+                                         "th, td { border-style: solid; border-width: 1px; border-color: %1; }"
                                          "th { background-color: %2; text-align: left; }");
 
 } // namespace

@@ -43,6 +43,9 @@ HelpFrm::HelpFrm(Language language)
     // Over the text they would only be in the way.
     m_ui->treContents->setToolTip(QString());
     m_ui->txtGuide->setToolTip(QString());
+    // Room for what it may say, so that nothing moves when it says it.
+    m_ui->lblFound->setMinimumWidth(
+        m_ui->lblFound->fontMetrics().horizontalAdvance(helpText(HelpText::NotFound, language)));
     connectControls();
     connectKeys();
 }
