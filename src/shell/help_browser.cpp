@@ -15,13 +15,14 @@ const QString pictureScheme = QStringLiteral("picture");
 constexpr int largestPicture = 4000; // pixels
 
 // Sizes and spaces; the colours are the desktop's.
-const QString styleText = QStringLiteral("h1 { font-size: x-large; margin-bottom: 8px; }"
-                                         "h2 { font-size: large; margin-top: 18px; margin-bottom: 4px; }"
-                                         "p, ul, ol { margin-top: 4px; margin-bottom: 8px; }"
-                                         "li { margin-bottom: 3px; }"
-                                         "table { border-collapse: collapse; margin-top: 4px; margin-bottom: 10px; }"
-                                         "th, td { border-style: solid; border-width: 1px; border-color: %1; }"
-                                         "th { background-color: %2; text-align: left; }");
+const QString styleText =
+    QStringLiteral("h1 { font-size: x-large; margin-bottom: 8px; }"
+                   "h2 { font-size: large; margin-top: 18px; margin-bottom: 4px; }"
+                   "p, ul, ol { margin-top: 4px; margin-bottom: 8px; }"
+                   "li { margin-bottom: 3px; }"
+                   "table { border-collapse: collapse; margin-top: 4px; margin-bottom: 10px; }"
+                   "th, td { border-style: solid; border-width: 1px; border-color: %1; }"
+                   "th { background-color: %2; text-align: left; }");
 
 } // namespace
 

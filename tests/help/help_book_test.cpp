@@ -85,8 +85,8 @@ TEST_F(HelpBooks, TheFileIsPlainHtmlThatPointsNowhereOutside)
 TEST_F(HelpBooks, AFileThatIsNoneGivesNoBook)
 {
     for (const QByteArray& bytes :
-         {QByteArray(), QByteArray("<html><h1>Other</h1></html>"), QByteArray(5000, '\xFF'), QByteArray(5000, '\0'),
-          QByteArray("<!-- torvane help end --><!-- torvane help 1 -->")}) {
+         {QByteArray(), QByteArray("<html><h1>Other</h1></html>"), QByteArray(5000, '\xFF'),
+          QByteArray(5000, '\0'), QByteArray("<!-- torvane help end --><!-- torvane help 1 -->")}) {
         EXPECT_FALSE(HelpBook::parse(bytes, Language::English));
     }
 }

@@ -19,7 +19,8 @@ TEST(HelpSearches, FindEveryPlaceWhateverTheCapitals)
 
 TEST(HelpSearches, PlacesDoNotOverlap)
 {
-    EXPECT_THAT(HelpSearch(chapters, QStringLiteral("aa")).places(), ElementsAre(HelpPlace{3, 0}, HelpPlace{3, 2}));
+    EXPECT_THAT(HelpSearch(chapters, QStringLiteral("aa")).places(),
+                ElementsAre(HelpPlace{3, 0}, HelpPlace{3, 2}));
 }
 
 TEST(HelpSearches, FindUmlautsWhateverTheCapitals)

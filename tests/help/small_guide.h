@@ -19,16 +19,19 @@ protected:
         put(QStringLiteral("chapters.txt"), "one\ntwo\n");
         put(QStringLiteral("en/one.html"),
             "<h1>First &amp; best</h1>\n<p>See <a href=\"two.html#sea\">the sea</a>.</p>\n"
-            "<h2 id=\"top\">The <b>top</b></h2>\n<p><img src=\"../pictures/dot.svg\" width=\"4\" height=\"4\" "
+            "<h2 id=\"top\">The <b>top</b></h2>\n<p><img src=\"../pictures/dot.svg\" width=\"4\" "
+            "height=\"4\" "
             "alt=\"A dot\"></p>\n");
         put(QStringLiteral("de/one.html"),
             "<h1>Erstes &amp; bestes</h1>\n<p>Siehe <a href=\"two.html#sea\">die See</a>.</p>\n"
-            "<h2 id=\"top\">Das <b>Oben</b></h2>\n<p><img src=\"../pictures/dot.svg\" width=\"4\" height=\"4\" "
+            "<h2 id=\"top\">Das <b>Oben</b></h2>\n<p><img src=\"../pictures/dot.svg\" width=\"4\" "
+            "height=\"4\" "
             "alt=\"Ein Punkt\"></p>\n");
         put(QStringLiteral("en/two.html"), "<h1>Second</h1>\n<h2 id=\"sea\">Sea</h2>\n<p>Up to "
                                            "<a href=\"#sea\">here</a>, <a href=\"one.html\">back</a>.</p>\n");
-        put(QStringLiteral("de/two.html"), "<h1>Zweites</h1>\n<h2 id=\"sea\">Großes Meer</h2>\n<p>Bis "
-                                           "<a href=\"#sea\">hier</a>, <a href=\"one.html\">zurück</a>.</p>\n");
+        put(QStringLiteral("de/two.html"),
+            "<h1>Zweites</h1>\n<h2 id=\"sea\">Großes Meer</h2>\n<p>Bis "
+            "<a href=\"#sea\">hier</a>, <a href=\"one.html\">zurück</a>.</p>\n");
         put(QStringLiteral("pictures/dot.svg"), dot);
     }
 
@@ -53,8 +56,9 @@ protected:
         put(name, bytes.replace(piece, replacement));
     }
 
-    const QByteArray dot = "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"4\" height=\"4\"><rect width=\"4\" "
-                           "height=\"4\"/></svg>";
+    const QByteArray dot =
+        "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"4\" height=\"4\"><rect width=\"4\" "
+        "height=\"4\"/></svg>";
 
 private:
     QTemporaryDir m_folder;
