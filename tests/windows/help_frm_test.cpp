@@ -68,13 +68,14 @@ protected:
         press(box(), Qt::Key_Return);
         settle();
     }
-    HelpBook book() const { return HelpBook::parse(delivered(), GetParam()).value(); }
+    const HelpBook& book() const { return m_book; }
 
     ScriptedMessageBoxes boxes;
     WindowHelpViewer viewer{GetParam(), boxes};
 
 private:
     QTemporaryDir m_folder;
+    const HelpBook m_book = HelpBook::parse(delivered(), GetParam()).value();
 };
 
 TEST_P(Help, OpensAtItsFirstPageInTheLanguage)
@@ -104,7 +105,7 @@ TEST_P(Help, CaptionsSpeakTheLanguage)
 TEST_P(Help, ListsAllChaptersAndSections)
 {
     open();
-    const HelpBook whole = book();
+    const HelpBook& whole = book();
     ASSERT_EQ(contents().topLevelItemCount(), static_cast<int>(whole.chapters().size()));
     for (int i = 0; i < contents().topLevelItemCount(); ++i) {
         const HelpChapter& chapter = whole.chapters()[static_cast<std::size_t>(i)];
