@@ -9,6 +9,7 @@
 #include "shell/about_frm.h"
 #include "shell/captions.h"
 #include "shell/editor.h"
+#include "shell/load_commands.h"
 #include "shell/main_menu.h"
 #include "shell/new_scenario.h"
 #include "shell/save_commands.h"
@@ -140,6 +141,7 @@ void MainFrm::connectCommands()
         on(m_menu->action(QLatin1StringView(entry)), &QAction::triggered, handler);
     };
     command("mnuNew", [this] { newScenario(m_editor); });
+    command("mnuLoad", [this] { loadScenario(m_editor); });
     command("mnuSave", [this] { saveScenario(m_editor); });
     command("mnuSaveAs", [this] { saveScenarioAs(m_editor); });
     command("mnuOverView", [this] { showOverview(); });

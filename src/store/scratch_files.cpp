@@ -147,7 +147,7 @@ QStringList ScratchFiles::read(const QString& path) const
 
 void ScratchFiles::write(const QString& path, const QStringList& values) const
 {
-    writeWholeFile(path, quotedLines(values));
+    writeScratchFile(path, quotedLines(values));
 }
 
 QStringList ScratchFiles::killList()

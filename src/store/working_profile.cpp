@@ -103,7 +103,7 @@ bool WorkingProfile::write(QStringView section, QStringView key, QStringView val
 
 bool WorkingProfile::createNewIniTempFile()
 {
-    m_store.remove(m_path);
+    remove();
     return write(versionSection, versionKey, version);
 }
 

@@ -41,6 +41,9 @@ public:
     /// Writes one key; the platform reports a failure.
     bool write(QStringView section, QStringView key, QStringView value);
 
+    /// Deletes the profile. Throws RuntimeError if it is there and can't be deleted.
+    void remove() { m_store.remove(m_path); }
+
     /// Deletes the profile and writes the version section. False if that write failed.
     bool createNewIniTempFile();
 
