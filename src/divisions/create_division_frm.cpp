@@ -5,7 +5,7 @@
 namespace torvane {
 
 CreateDivisionFrm::CreateDivisionFrm(Editor& editor)
-    : Form(editor.forms(), QStringLiteral("CreateDivisionFrm"), Qt::Dialog)
+    : EditorForm(editor, QStringLiteral("CreateDivisionFrm"), Qt::Dialog)
 {
     for (std::size_t i = 0; i < chkDiv.size(); ++i) {
         chkDiv[i] = hiddenControl<QCheckBox>("chkDiv");

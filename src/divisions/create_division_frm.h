@@ -1,15 +1,13 @@
 #pragma once
 
-#include "platform/form.h"
+#include "shell/editor_form.h"
 
 #include <array>
 
 namespace torvane {
 
-class Editor;
-
 /// The division dialog. So far only the state that other windows share with it.
-class CreateDivisionFrm : public Form
+class CreateDivisionFrm : public EditorForm
 {
     Q_OBJECT
 

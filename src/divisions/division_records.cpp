@@ -46,16 +46,6 @@ QString shipPlace(const QString& divisionSection, int place)
 
 } // namespace
 
-Side sideOfLabel(const QString& sideLabel)
-{
-    return sideLabel == QLatin1StringView("Force A (Blue)") ? Side::Blue : Side::Red;
-}
-
-QString sideWord(Side side)
-{
-    return side == Side::Blue ? QStringLiteral("Blue") : QStringLiteral("Red");
-}
-
 QString storedFormation(const QString& shown)
 {
     for (const FormationWord& word : formationWords) {
@@ -81,7 +71,7 @@ DivisionVars readDialogFields(const DivisionFields& fields)
     const QString number = fields.divisionLabel.trimmed().right(1);
     return {.number = number,
             .name = divisionName(number),
-            .side = sideWord(sideOfLabel(fields.sideLabel)),
+            .side = wordOf(sideOfLabel(fields.sideLabel)),
             .formation = storedFormation(fields.formation),
             .heading = fields.heading.trimmed(),
             .spacing = fields.spacing.trimmed(),
@@ -92,7 +82,7 @@ DivisionVars divisionDefaults(Language language)
 {
     return {.number = QStringLiteral("1"),
             .name = divisionName(QStringLiteral("1")),
-            .side = QStringLiteral("Blue"),
+            .side = blueWord,
             .formation = shownFormation(QStringLiteral("Column"), language),
             .heading = QStringLiteral("0"),
             .spacing = QStringLiteral("500"),
@@ -200,7 +190,7 @@ void DivisionRecords::saveEditedDivision(const DivisionFields& fields)
 
 void DivisionRecords::moveShips(int division, const DivisionVars& vars, int oldCount)
 {
-    const Side side = vars.side == QLatin1StringView("Blue") ? Side::Blue : Side::Red;
+    const Side side = sideOfWord(vars.side);
     const QStringList lines = listOf(side, toInt16(numberValue(vars.number)));
     const QStringList before =
         isThere(m_files.exisitTemp()) ? m_files.read(m_files.exisitTemp()) : QStringList();
@@ -239,7 +229,7 @@ void DivisionRecords::loadDivisionKeys(const QString& name, DivisionVars& vars) 
 
 void DivisionRecords::readDivData(const QString& name, Language language, DivisionVars& vars) const
 {
-    const Side side = vars.side == QLatin1StringView("Blue") ? Side::Blue : Side::Red;
+    const Side side = sideOfWord(vars.side);
     const QString path = m_files.divDataFile(side, toInt16(numberValue(name.trimmed().right(1))));
     if (!isThere(path)) {
         const QString number = vars.number;
@@ -257,7 +247,7 @@ void DivisionRecords::readDivData(const QString& name, Language language, Divisi
 
 void DivisionRecords::writeDivData(const DivisionVars& vars) const
 {
-    const Side side = vars.side == QLatin1StringView("Blue") ? Side::Blue : Side::Red;
+    const Side side = sideOfWord(vars.side);
     const QByteArray lines =
         quotedLines({vars.name, vars.side, vars.formation, vars.heading, vars.spacing, vars.speed});
     writeWholeFile(m_files.divDataFile(side, toInt16(numberValue(vars.number))), lines + "\r\n\r\n");
@@ -274,7 +264,7 @@ DivisionShips DivisionRecords::loadDivisionShips(const QString& name, const QStr
     QString flagship;
     for (int n = 0; n < divisionSections; ++n) {
         const QString section = divisionSection(n);
-        if (m_profile.GetIniKey(section, u"SIDE").toUpper() != sideWord(side).toUpper() ||
+        if (m_profile.GetIniKey(section, u"SIDE").toUpper() != QString(wordOf(side)).toUpper() ||
             m_profile.GetIniKey(section, u"DIVISIONNAME") != name) {
             continue;
         }

@@ -130,9 +130,4 @@ private:
     int m_redDivCount = 0;
 };
 
-/// The side that a side label names; anything but Force A's is Force B.
-Side sideOfLabel(const QString& sideLabel);
-/// "Blue" or "Red".
-QString sideWord(Side side);
-
 } // namespace torvane

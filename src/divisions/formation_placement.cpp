@@ -6,6 +6,7 @@
 #include "platform/runtime_error.h"
 #include "store/profile_keys.h"
 #include "store/ship_catalogue.h"
+#include "store/side.h"
 #include "store/working_profile.h"
 
 #include <array>
@@ -140,7 +141,7 @@ std::optional<DivisionToPlace> FormationPlacement::findDivision(const Reposition
                                    .count = toInt16(numberValue(count)),
                                    .heading = toInt16(numberValue(heading)),
                                    .spacing = toInt16(numberValue(spacing)),
-                                   .colour = side == u"Blue" ? 9 : 12,
+                                   .colour = sideOfWord(side) == Side::Blue ? 9 : 12,
                                    .flagshipPlace = toInt32(roundEven(numberValue(flagshipIndex)) + 1)};
         }
     }

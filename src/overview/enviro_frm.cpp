@@ -1,6 +1,6 @@
 #include "overview/enviro_frm.h"
 
-#include "overview/control_tips.h"
+#include "overview/dialog_texts.h"
 #include "overview/overview_frm.h"
 #include "overview/overview_texts.h"
 #include "overview/overview_tips.h"
@@ -38,8 +38,7 @@ public:
 } // namespace
 
 EnviroFrm::EnviroFrm(Editor& editor)
-    : Form(editor.forms(), QStringLiteral("EnviroFrm"), Qt::Dialog),
-      m_editor(editor),
+    : EditorForm(editor, QStringLiteral("EnviroFrm"), Qt::Dialog),
       m_ui(std::make_unique<Ui::EnviroFrm>()),
       m_moon(hiddenControl<ListCombo>("ComboMoon"))
 {
@@ -60,38 +59,19 @@ EnviroFrm::~EnviroFrm() = default;
 
 void EnviroFrm::onLoad()
 {
-    if (valueOf(m_editor.mainFrm().chkGermanVersion) == 1) {
-        setGermanCaptions();
-    } else {
-        setEnglishCaptions();
-    }
+    EditorForm::onLoad();
     drawPictures();
     show(scenarioDefaults(m_editor.language()).environment);
 }
 
-void EnviroFrm::setEnglishCaptions()
-{
-    applyCaptions(Language::English);
-}
-
-void EnviroFrm::setGermanCaptions()
-{
-    applyCaptions(Language::German);
-}
-
 void EnviroFrm::applyCaptions(Language language)
 {
-    setWindowTitle(captionOf(environmentCaptions, objectName(), language));
-    for (const CaptionRow& row : environmentCaptions) {
-        if (auto* button = findChild<QPushButton*>(row.control)) {
-            button->setText(row.caption.in(language));
-        }
-    }
+    applyCaptionTable(*this, environmentCaptions, language);
     for (QGroupBox* group : {m_ui->fraTime, m_ui->fraWeather, m_ui->fraPlace}) {
         group->setTitle(captionOf(environmentGroups, group->objectName(), language));
     }
     applyControlTips(*this, environmentTips, language);
-    fillLists(language);
+    fillLists(*this, language);
     applyMnemonics();
 }
 
@@ -121,13 +101,6 @@ void EnviroFrm::applyMnemonics()
     for (const auto& [label, control] : labels) {
         label->setText(
             withMnemonic(captionOf(environmentLabels, QString::fromLatin1(control), language), taken));
-    }
-}
-
-void EnviroFrm::fillLists(Language language)
-{
-    for (ListCombo* list : findChildren<ListCombo*>()) {
-        list->addItems(listContents(list->objectName(), language));
     }
 }
 
@@ -227,7 +200,7 @@ void EnviroFrm::windTyped()
         m_ui->ComboSeaState->showEntry(QString::number(*typed.seaState));
     }
     if (!typed.check.accepted) {
-        refuse(overviewMessage(OverviewMessage::WindSpeedRange, m_editor.language()));
+        showOutOfRange(m_editor, OverviewMessage::WindSpeedRange);
         m_ui->TxtWindSpd->setText(typed.check.text);
     }
 }
@@ -236,7 +209,7 @@ void EnviroFrm::directionTyped()
 {
     const TypedCheck typed = checkWindDirection(m_ui->TxtWindDir->text());
     if (!typed.accepted) {
-        refuse(overviewMessage(OverviewMessage::HeadingRange, m_editor.language()));
+        showOutOfRange(m_editor, OverviewMessage::HeadingRange);
     }
     if (m_ui->TxtWindDir->text() != typed.text) {
         m_ui->TxtWindDir->setText(typed.text);
@@ -264,14 +237,6 @@ void EnviroFrm::showGameLength(const GameLength& length)
     m_ui->lblGmLenHour->setText(length.hour);
     m_ui->lblGmLenMin->setText(length.minutes);
     m_gameLength->setText(gameLengthCaption(length));
-}
-
-void EnviroFrm::refuse(const QString& message)
-{
-    m_editor.services().messageBoxes.show(
-        {.text = message,
-         .title = overviewMessage(OverviewMessage::OutOfRangeTitle, m_editor.language()),
-         .icon = MessageBox::Icon::Information});
 }
 
 EnvironmentValues EnviroFrm::values() const

@@ -2,7 +2,7 @@
 
 #include "overview/environment_rules.h"
 #include "overview/scenario_data.h"
-#include "platform/form.h"
+#include "shell/editor_form.h"
 
 #include <memory>
 
@@ -12,14 +12,13 @@ class EnviroFrm;
 
 namespace torvane {
 
-class Editor;
 class ListCombo;
 class StepButton;
 
 /// The environment dialog: time, calendar, weather, game length, air control and location, and the rules that
 /// tie them together. Its controls are read while they live: by the overview when it writes, and by the map's
 /// rings.
-class EnviroFrm : public Form
+class EnviroFrm : public EditorForm
 {
     Q_OBJECT
 
@@ -44,12 +43,9 @@ protected:
     void onLoad() override;
     void onActivate() override;
     void onCloseBox() override;
+    void applyCaptions(Language language) override;
 
 private:
-    void setEnglishCaptions();
-    void setGermanCaptions();
-    void applyCaptions(Language language);
-    void fillLists(Language language);
     void drawPictures();
     void applyMnemonics();
 
@@ -63,13 +59,11 @@ private:
     void seaStatePicked();
     void showGameLength(const GameLength& length);
     GameLength gameLength() const;
-    void refuse(const QString& message);
 
     void save();
     void cancel();
     void leave();
 
-    Editor& m_editor;
     std::unique_ptr<Ui::EnviroFrm> m_ui;
     QLabel* const m_gameLength = hiddenControl<QLabel>("TxtGameLen");
     ListCombo* const m_moon;

@@ -1,3 +1,4 @@
+#include "overview/dialog_texts.h"
 #include "overview/overview_frm.h"
 #include "overview/overview_rules.h"
 #include "platform/step_button.h"
@@ -56,14 +57,10 @@ void OverviewFrm::connectTyping()
 void OverviewFrm::check(QLineEdit* box, TypedCheck (*rule)(QStringView), OverviewMessage message)
 {
     const TypedCheck typed = rule(box->text());
-    if (typed.accepted) {
-        return;
+    if (!typed.accepted) {
+        showOutOfRange(m_editor, message);
+        box->setText(typed.text);
     }
-    m_editor.services().messageBoxes.show(
-        {.text = overviewMessage(message, m_editor.language()),
-         .title = overviewMessage(OverviewMessage::OutOfRangeTitle, m_editor.language()),
-         .icon = MessageBox::Icon::Information});
-    box->setText(typed.text);
 }
 
 } // namespace torvane

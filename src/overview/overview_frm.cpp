@@ -1,7 +1,7 @@
 #include "overview/overview_frm.h"
 
 #include "divisions/create_division_frm.h"
-#include "overview/control_tips.h"
+#include "overview/dialog_texts.h"
 #include "overview/enviro_frm.h"
 #include "overview/overview_rules.h"
 #include "overview/overview_tips.h"
@@ -30,8 +30,7 @@ const QColor forceBRed(164, 38, 38);
 } // namespace
 
 OverviewFrm::OverviewFrm(Editor& editor)
-    : Form(editor.forms(), QStringLiteral("OverviewFrm"), Qt::Dialog),
-      m_editor(editor),
+    : EditorForm(editor, QStringLiteral("OverviewFrm"), Qt::Dialog),
       m_ui(std::make_unique<Ui::OverviewFrm>()),
       m_victoryMods(hiddenControl<ListCombo>("ComboVPMods")),
       m_blueCondition(hiddenControl<ListCombo>("ComboBlueVC")),
@@ -60,38 +59,17 @@ QString OverviewFrm::title() const
 
 void OverviewFrm::onLoad()
 {
-    if (valueOf(m_editor.mainFrm().chkGermanVersion) == 1) {
-        setGermanCaptions();
-    } else {
-        setEnglishCaptions();
-    }
-    fillLists();
+    EditorForm::onLoad();
+    fillLists(*this, m_editor.language());
     show(scenarioDefaults(m_editor.language()).overview);
     if (const Mission* first = mission()) {
         showBrief(*first, false);
     }
 }
 
-void OverviewFrm::setEnglishCaptions()
-{
-    applyCaptions(Language::English);
-}
-
-void OverviewFrm::setGermanCaptions()
-{
-    applyCaptions(Language::German);
-}
-
 void OverviewFrm::applyCaptions(Language language)
 {
-    setWindowTitle(captionOf(overviewCaptions, objectName(), language));
-    for (const CaptionRow& row : overviewCaptions) {
-        if (auto* label = findChild<QLabel*>(row.control)) {
-            label->setText(row.caption.in(language));
-        } else if (auto* button = findChild<QPushButton*>(row.control)) {
-            button->setText(row.caption.in(language));
-        }
-    }
+    applyCaptionTable(*this, overviewCaptions, language);
     applyControlTips(*this, overviewTips, language);
     applyMnemonics();
 }
@@ -105,13 +83,6 @@ void OverviewFrm::applyMnemonics()
     for (QLabel* label : {m_ui->Label1, m_ui->Label2, m_ui->Label6, m_ui->lblMovie, m_ui->Label22,
                           m_ui->Label5, m_ui->Label26, m_ui->Label24, m_ui->Label19, m_ui->Label25}) {
         label->setText(withMnemonic(label->text(), taken));
-    }
-}
-
-void OverviewFrm::fillLists()
-{
-    for (ListCombo* list : findChildren<ListCombo*>()) {
-        list->addItems(listContents(list->objectName(), m_editor.language()));
     }
 }
 

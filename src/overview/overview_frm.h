@@ -4,7 +4,7 @@
 #include "overview/overview_texts.h"
 #include "overview/scenario_data.h"
 #include "overview/typed_values.h"
-#include "platform/form.h"
+#include "shell/editor_form.h"
 
 #include <memory>
 
@@ -16,13 +16,12 @@ class OverviewFrm;
 
 namespace torvane {
 
-class Editor;
 class ListCombo;
 
 /// The overview of the scenario: its name, mission, navies, disengage headings, victory modifiers and movie.
 /// Owns the scenario section of the working profile together with the environment dialog, which is opened
 /// from here.
-class OverviewFrm : public Form
+class OverviewFrm : public EditorForm
 {
     Q_OBJECT
 
@@ -48,13 +47,10 @@ protected:
     void onActivate() override;
     void onCloseBox() override;
     bool eventFilter(QObject* watched, QEvent* event) override;
+    void applyCaptions(Language language) override;
 
 private:
-    void setEnglishCaptions();
-    void setGermanCaptions();
-    void applyCaptions(Language language);
     void applyMnemonics();
-    void fillLists();
     void colorForces();
     void connectSteppers();
     void connectTyping();
@@ -77,7 +73,6 @@ private:
     void save();
     void leave();
 
-    Editor& m_editor;
     std::unique_ptr<Ui::OverviewFrm> m_ui;
     ListCombo* const m_victoryMods;
     ListCombo* const m_blueCondition;

@@ -60,7 +60,7 @@ constexpr std::array<CaptionRow, 14> environmentLabels{{
     {"ComboAirSup"_L1, {"Air/Sea Control:", "Luft-/Seeübermacht:"}},
 }};
 
-constexpr std::array<OverviewMessageRow, 4> overviewMessages{{
+constexpr std::array<TextRow<OverviewMessage>, 4> overviewMessages{{
     {OverviewMessage::OutOfRangeTitle, {"Out of Range", "Ausserhalb Ihrer Reichweite"}},
     {OverviewMessage::HeadingRange,
      {"You must enter a heading between 0 and 360 degrees.",
@@ -177,7 +177,7 @@ QString captionOf(std::span<const CaptionRow> table, QStringView control, Langua
 
 QString overviewMessage(OverviewMessage message, Language language)
 {
-    return overviewMessages.at(static_cast<std::size_t>(message)).text.in(language);
+    return textIn(overviewMessages, message, language);
 }
 
 QStringList listContents(QStringView control, Language language)

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "overview/bilingual.h"
+#include "platform/bilingual.h"
 
 #include <QLatin1StringView>
 #include <QStringList>
@@ -30,13 +30,8 @@ QString captionOf(std::span<const CaptionRow> table, QStringView control, Langua
 
 /// Messages of both dialogs.
 enum class OverviewMessage { OutOfRangeTitle, HeadingRange, ModifierRange, WindSpeedRange };
-struct OverviewMessageRow
-{
-    OverviewMessage message;
-    Bilingual text;
-};
 /// One row a message, in the order of `OverviewMessage`.
-extern const std::array<OverviewMessageRow, 4> overviewMessages;
+extern const std::array<TextRow<OverviewMessage>, 4> overviewMessages;
 QString overviewMessage(OverviewMessage message, Language language);
 
 /// The words for the two sides, which the hidden labels hold and compare.

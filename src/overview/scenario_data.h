@@ -1,6 +1,6 @@
 #pragma once
 
-#include "overview/bilingual.h"
+#include "platform/bilingual.h"
 
 #include <QString>
 #include <QStringView>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/language.h"
+#include "platform/bilingual.h"
 
 #include <QString>
 
@@ -25,15 +25,8 @@ enum class SaveText {
     FailedTitle,
 };
 
-struct SaveTextRow
-{
-    SaveText text;
-    const char* english;
-    const char* german;
-};
-
-/// One row a text, in the order of `SaveText`. UTF-8.
-extern const std::array<SaveTextRow, 13> saveTexts;
+/// One row a text, in the order of `SaveText`.
+extern const std::array<TextRow<SaveText>, 13> saveTexts;
 
 QString saveText(SaveText text, Language language);
 

@@ -1,6 +1,7 @@
 #include "scenario_file/validate_scenario.h"
 
 #include "scenario_file/scenario_format.h"
+#include "store/side.h"
 #include "store/working_profile.h"
 
 #include <QFile>
@@ -28,8 +29,7 @@ void checkTitle(const WorkingProfile& profile, Findings& findings)
 /// The side that escorts or transports: a scenario that doesn't say so has it on Red.
 QString activeSide(const WorkingProfile& profile)
 {
-    return profile.GetIniKey(scenarioDataSection, u"BLUE_FORCE_TYPE") == u"0" ? QStringLiteral("Blue")
-                                                                              : QStringLiteral("Red");
+    return profile.GetIniKey(scenarioDataSection, u"BLUE_FORCE_TYPE") == u"0" ? blueWord : redWord;
 }
 
 // An area placed at exactly x 0 counts as none. Kept.
@@ -94,8 +94,8 @@ bool hasBothSides(const WorkingProfile& profile, int divisions)
     bool red = false;
     for (int n = 0; n <= divisions; ++n) {
         const QString side = profile.GetIniKey(divisionSection(n), u"SIDE");
-        blue = blue || side == u"Blue";
-        red = red || side == u"Red";
+        blue = blue || side == blueWord;
+        red = red || side == redWord;
     }
     return blue && red;
 }

@@ -17,9 +17,7 @@ constexpr int leftMargin = 12;
 } // namespace
 
 AboutFrm::AboutFrm(Editor& editor)
-    : Form(editor.forms(), QStringLiteral("AboutFrm"), Qt::Dialog),
-      m_editor(editor),
-      m_ui(std::make_unique<Ui::AboutFrm>())
+    : EditorForm(editor, QStringLiteral("AboutFrm"), Qt::Dialog), m_ui(std::make_unique<Ui::AboutFrm>())
 {
     m_ui->setupUi(this);
     m_ui->picIcon->setPixmap(QIcon(QStringLiteral(":/icons/editor.svg")).pixmap(64));
@@ -32,11 +30,7 @@ AboutFrm::~AboutFrm() = default;
 
 void AboutFrm::onLoad()
 {
-    if (valueOf(m_editor.mainFrm().chkGermanVersion) == 1) {
-        setGermanCaptions();
-    } else {
-        setEnglishCaptions();
-    }
+    EditorForm::onLoad();
     const QFontMetrics metrics(m_ui->PicAbout->font());
     int width = 0;
     for (const QString& line : std::as_const(m_lines)) {
@@ -46,16 +40,10 @@ void AboutFrm::onLoad()
                                    metrics.height() * static_cast<int>(m_lines.size()));
 }
 
-void AboutFrm::setEnglishCaptions()
+void AboutFrm::applyCaptions(Language language)
 {
-    setWindowTitle(mainText(MainText::AboutTitle, Language::English));
-    m_lines = aboutLines(Language::English, QLocale::system().toString(versionDate(), QLocale::ShortFormat));
-}
-
-void AboutFrm::setGermanCaptions()
-{
-    setWindowTitle(mainText(MainText::AboutTitle, Language::German));
-    m_lines = aboutLines(Language::German, QLocale::system().toString(versionDate(), QLocale::ShortFormat));
+    setWindowTitle(mainText(MainText::AboutTitle, language));
+    m_lines = aboutLines(language, QLocale::system().toString(versionDate(), QLocale::ShortFormat));
 }
 
 void AboutFrm::onActivate()

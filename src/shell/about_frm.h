@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/form.h"
+#include "shell/editor_form.h"
 
 #include <memory>
 
@@ -10,10 +10,8 @@ class AboutFrm;
 
 namespace torvane {
 
-class Editor;
-
 /// The about box.
-class AboutFrm : public Form
+class AboutFrm : public EditorForm
 {
     Q_OBJECT
 
@@ -25,13 +23,11 @@ protected:
     void onLoad() override;
     void onActivate() override;
     void onCloseBox() override;
+    void applyCaptions(Language language) override;
 
 private:
-    void setEnglishCaptions();
-    void setGermanCaptions();
     void close();
 
-    Editor& m_editor;
     std::unique_ptr<Ui::AboutFrm> m_ui;
     QStringList m_lines;
 };

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/language.h"
+#include "platform/bilingual.h"
 
 #include <QString>
 
@@ -32,15 +32,8 @@ enum class MainText {
     UnsavedFile,
 };
 
-struct MainTextRow
-{
-    MainText text;
-    const char* english;
-    const char* german;
-};
-
-/// One row a text, in the order of `MainText`. UTF-8.
-extern const std::array<MainTextRow, 19> mainTexts;
+/// One row a text, in the order of `MainText`.
+extern const std::array<TextRow<MainText>, 19> mainTexts;
 
 QString mainText(MainText text, Language language);
 

@@ -1,12 +1,16 @@
 #include "shell/editor.h"
 
 #include "divisions/create_division_frm.h"
+#include "map/grid_level_frm.h"
+#include "map/zoom_level_frm.h"
 #include "overview/enviro_frm.h"
 #include "overview/overview_frm.h"
 #include "shell/about_frm.h"
 #include "shell/captions.h"
 #include "shell/main_frm.h"
 #include "shell/splash_frm.h"
+#include "ship_selection/ship_dbase_frm.h"
+#include "ship_state/ship_data_frm.h"
 
 // Resources of a static library are taken into the program by this call; it stands outside every namespace.
 static void registerIcons()
@@ -107,6 +111,26 @@ EnviroFrm& Editor::enviroFrm()
 CreateDivisionFrm& Editor::createDivisionFrm()
 {
     return loaded(m_createDivisionFrm);
+}
+
+ShipDBaseFrm& Editor::shipDBaseFrm()
+{
+    return loaded(m_shipDBaseFrm);
+}
+
+ShipDataFrm& Editor::shipDataFrm()
+{
+    return loaded(m_shipDataFrm);
+}
+
+ZoomLevelFrm& Editor::zoomLevelFrm()
+{
+    return loaded(m_zoomLevelFrm);
+}
+
+GridLevelFrm& Editor::gridLevelFrm()
+{
+    return loaded(m_gridLevelFrm);
 }
 
 } // namespace torvane

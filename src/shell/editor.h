@@ -25,8 +25,12 @@ namespace torvane {
 class AboutFrm;
 class CreateDivisionFrm;
 class EnviroFrm;
+class GridLevelFrm;
 class MainFrm;
 class OverviewFrm;
+class ShipDBaseFrm;
+class ShipDataFrm;
+class ZoomLevelFrm;
 class frmSplash;
 
 /// What is fixed when a program is built.
@@ -79,6 +83,10 @@ public:
     OverviewFrm& overviewFrm();
     EnviroFrm& enviroFrm();
     CreateDivisionFrm& createDivisionFrm();
+    ShipDBaseFrm& shipDBaseFrm();
+    ShipDataFrm& shipDataFrm();
+    ZoomLevelFrm& zoomLevelFrm();
+    GridLevelFrm& gridLevelFrm();
 
     /// Shows the platform's own error.
     void report(const RuntimeError& error);
@@ -103,6 +111,10 @@ private:
     std::optional<ShipRecords> m_shipRecords;
     std::optional<DivisionRecords> m_divisionRecords;
 
+    std::unique_ptr<GridLevelFrm> m_gridLevelFrm;
+    std::unique_ptr<ZoomLevelFrm> m_zoomLevelFrm;
+    std::unique_ptr<ShipDataFrm> m_shipDataFrm;
+    std::unique_ptr<ShipDBaseFrm> m_shipDBaseFrm;
     std::unique_ptr<CreateDivisionFrm> m_createDivisionFrm;
     std::unique_ptr<OverviewFrm> m_overviewFrm;
     std::unique_ptr<EnviroFrm> m_enviroFrm;

@@ -1,5 +1,7 @@
 #include "shell/lifecycle.h"
 
+#include "store/side.h"
+
 namespace torvane {
 
 Paths pathsBelow(const QString& basePath)
@@ -38,8 +40,7 @@ QDate versionDate()
 
 QString repositionKeyFor(const QString& sideLabel, const QString& divisionLabel)
 {
-    const QString side = sideLabel == forceALabel ? QStringLiteral("Blue ") : QStringLiteral("Red ");
-    return side + divisionLabel.trimmed().right(1);
+    return wordOf(sideOfLabel(sideLabel)) + QLatin1Char(' ') + divisionLabel.trimmed().right(1);
 }
 
 } // namespace torvane

@@ -63,8 +63,4 @@ QDate versionDate();
 /// character of the division's label.
 QString repositionKeyFor(const QString& sideLabel, const QString& divisionLabel);
 
-/// The side labels of the division dialog. Never translated: they are compared.
-inline constexpr QLatin1StringView forceALabel{"Force A (Blue)"};
-inline constexpr QLatin1StringView forceBLabel{"Force B (Red)"};
-
 } // namespace torvane

@@ -46,8 +46,7 @@ constexpr double captionPixels = 5.5;    // width of a character of a caption
 
 } // namespace
 
-MainFrm::MainFrm(Editor& editor)
-    : Form(editor.forms(), QStringLiteral("MainFrm"), Qt::Window), m_editor(editor)
+MainFrm::MainFrm(Editor& editor) : EditorForm(editor, QStringLiteral("MainFrm"), Qt::Window)
 {
     auto* bar = new QMenuBar(this);
     bar->setObjectName(QStringLiteral("menuBar"));
@@ -157,7 +156,7 @@ void MainFrm::connectCommands()
 void MainFrm::onLoad()
 {
     setValue(chkGermanVersion, m_editor.german() ? 1 : 0);
-    applyCaptions();
+    EditorForm::onLoad();
     setPointer(Pointer::Hourglass);
     m_editor.splashFrm().showForm();
     setPointer(Pointer::Default);
@@ -194,15 +193,18 @@ void MainFrm::showDebugReadOuts()
         {.text = QStringLiteral("DeBug Mode is On!"), .title = QStringLiteral("DEBUG")});
 }
 
-void MainFrm::applyCaptions()
+void MainFrm::applyCaptions(Language language)
 {
-    if (valueOf(chkGermanVersion) == 1) {
-        setGermanCaptions();
-    } else {
-        setEnglishCaptions();
+    setWindowTitle(mainText(MainText::Title, language));
+    m_menu->setCaptions(language);
+    const QString ruler = mainText(MainText::RulerCaption, language);
+    m_rulerCaption->setText(ruler);
+    m_rulerCaption->adjustSize();
+    if (language == Language::German) {
+        const int width = qRound(captionPixels * static_cast<double>(ruler.size()));
+        m_rulerCaption->resize(std::max(width, m_rulerCaption->width()), m_rulerCaption->height());
     }
     fitMenuBar();
-    const Language language = m_editor.language();
     for (std::size_t i = 0; i < helpTags.size(); ++i) {
         const HelpTagText& text = helpTags[i].in(language);
         m_helpTags[i]->setText(text.string());
@@ -225,25 +227,6 @@ void MainFrm::fitMenuBar()
         bar->setFont(font);
     }
     setMinimumWidth(std::max(mapWidth + scrollBarSize, width()));
-}
-
-void MainFrm::setEnglishCaptions()
-{
-    setWindowTitle(mainText(MainText::Title, Language::English));
-    m_menu->setCaptions(Language::English);
-    m_rulerCaption->setText(mainText(MainText::RulerCaption, Language::English));
-    m_rulerCaption->adjustSize();
-}
-
-void MainFrm::setGermanCaptions()
-{
-    setWindowTitle(mainText(MainText::Title, Language::German));
-    m_menu->setCaptions(Language::German);
-    const QString ruler = mainText(MainText::RulerCaption, Language::German);
-    m_rulerCaption->setText(ruler);
-    const int width = qRound(captionPixels * static_cast<double>(ruler.size()));
-    m_rulerCaption->resize(std::max(width, m_rulerCaption->sizeHint().width()),
-                           m_rulerCaption->sizeHint().height());
 }
 
 void MainFrm::onActivate()

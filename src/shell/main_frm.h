@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/form.h"
+#include "shell/editor_form.h"
 #include "shell/progress_panel.h"
 #include "store/target_area.h"
 
@@ -14,13 +14,12 @@ class QScrollBar;
 
 namespace torvane {
 
-class Editor;
 class MainMenu;
 class PictureBox;
 
 /// The main window: owner of the run. Every other window is opened from it and comes back to it, and the
 /// hidden controls on it are the shared state through which the windows talk to each other.
-class MainFrm : public Form
+class MainFrm : public EditorForm
 {
     Q_OBJECT
 
@@ -78,6 +77,7 @@ protected:
     void onLoad() override;
     void onActivate() override;
     void onCloseBox() override;
+    void applyCaptions(Language language) override;
     void keyPressEvent(QKeyEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 
@@ -86,9 +86,6 @@ private:
     void makeDebugReadOuts(QWidget* surface);
     void makeHelpTags();
     void connectCommands();
-    void setEnglishCaptions();
-    void setGermanCaptions();
-    void applyCaptions();
     void fitMenuBar();
     QString findBasePath();
     void showDebugReadOuts();
@@ -102,7 +99,6 @@ private:
     void showAbout();
     void unload();
 
-    Editor& m_editor;
     MainMenu* m_menu = nullptr;
     PictureBox* m_pictureMain = nullptr;
     QScrollBar* m_hScroll = nullptr;

@@ -3,6 +3,7 @@
 #include "platform/runtime_error.h"
 #include "shell/captions.h"
 #include "shell/commands.h"
+#include "store/side.h"
 
 #include <QAction>
 #include <QKeySequence>
@@ -102,7 +103,7 @@ void MainMenu::resetForceMenus()
 
 void MainMenu::addRepositionMenuEntry(const QString& /*name*/, const QString& side)
 {
-    const bool forceA = side == QLatin1StringView("Blue");
+    const bool forceA = sideOfWord(side) == Side::Blue;
     int& count = forceA ? m_blueDivisionCount : m_redDivisionCount;
     ++count;
     if (count > divisionsPerSide) {

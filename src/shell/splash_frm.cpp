@@ -20,8 +20,7 @@ constexpr int progressPerTick = 10;
 } // namespace
 
 frmSplash::frmSplash(Editor& editor)
-    : Form(editor.forms(), QStringLiteral("frmSplash"), Qt::SplashScreen),
-      m_editor(editor),
+    : EditorForm(editor, QStringLiteral("frmSplash"), Qt::SplashScreen),
       m_ui(std::make_unique<Ui::frmSplash>())
 {
     m_ui->setupUi(this);
@@ -34,25 +33,16 @@ frmSplash::~frmSplash() = default;
 
 void frmSplash::onLoad()
 {
-    if (valueOf(m_editor.mainFrm().chkGermanVersion) == 1) {
-        setGermanCaptions();
-    } else {
-        setEnglishCaptions();
-    }
+    EditorForm::onLoad();
     if (const QScreen* screen = this->screen()) {
         move(screen->geometry().center() - rect().center());
     }
     m_timer.start();
 }
 
-void frmSplash::setEnglishCaptions()
+void frmSplash::applyCaptions(Language language)
 {
-    m_ui->Label1->setText(mainText(MainText::SplashTitle, Language::English));
-}
-
-void frmSplash::setGermanCaptions()
-{
-    m_ui->Label1->setText(mainText(MainText::SplashTitle, Language::German));
+    m_ui->Label1->setText(mainText(MainText::SplashTitle, language));
 }
 
 void frmSplash::tick()

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/form.h"
+#include "shell/editor_form.h"
 
 #include <QPixmap>
 #include <QTimer>
@@ -13,11 +13,9 @@ class frmSplash;
 
 namespace torvane {
 
-class Editor;
-
 /// The splash screen: lasts 15 ticks of a quarter second, or until a click or a key, and then shows the main
 /// window.
-class frmSplash : public Form
+class frmSplash : public EditorForm
 {
     Q_OBJECT
 
@@ -27,17 +25,15 @@ public:
 
 protected:
     void onLoad() override;
+    void applyCaptions(Language language) override;
     void mousePressEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    void setEnglishCaptions();
-    void setGermanCaptions();
     void tick();
     void finish();
 
-    Editor& m_editor;
     std::unique_ptr<Ui::frmSplash> m_ui;
     QTimer m_timer{this};
     bool m_finished = false;

@@ -1,14 +1,13 @@
 #pragma once
 
 #include "platform/profile_store.h"
+#include "store/side.h"
 
 #include <QByteArray>
 #include <QString>
 #include <QStringList>
 
 namespace torvane {
-
-enum class Side { Blue, Red };
 
 /// The values of a text in quoted-line format, one a line: the text between the first and the last double
 /// quote of the line, the text behind its only quote, or the whole line if it has none. Lines end in LF, CRLF

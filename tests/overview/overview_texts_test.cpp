@@ -104,7 +104,7 @@ TEST(OverviewTexts, TheMessagesAreTheTables)
     };
     ASSERT_EQ(overviewMessages.size(), 4U);
     for (std::size_t i = 0; i < overviewMessages.size(); ++i) {
-        EXPECT_EQ(static_cast<std::size_t>(overviewMessages[i].message), i);
+        EXPECT_EQ(static_cast<std::size_t>(overviewMessages[i].key), i);
     }
     both(M::OutOfRangeTitle, "Out of Range", "Ausserhalb Ihrer Reichweite");
     both(M::HeadingRange, "You must enter a heading between 0 and 360 degrees.",

@@ -9,7 +9,12 @@ namespace torvane {
 namespace {
 
 // Typed anew, so that a slip in the program's own table shows.
-constexpr SaveTextRow expected[] = {
+constexpr struct
+{
+    SaveText text;
+    const char* english;
+    const char* german;
+} expected[] = {
     {SaveText::ValidationTitle, "Save Error", "Fehler beim Sichern."},
     {SaveText::FileName,
      "File Name Invalid.  Please re-name the scenario's Title, in the Overview Menu, to conform to Windows "
@@ -47,7 +52,7 @@ constexpr SaveTextRow expected[] = {
 TEST(SaveTexts, ReadAsTheyShouldInBothLanguages)
 {
     ASSERT_EQ(saveTexts.size(), std::size(expected));
-    for (const SaveTextRow& row : expected) {
+    for (const auto& row : expected) {
         EXPECT_EQ(saveText(row.text, Language::English), QString::fromUtf8(row.english));
         EXPECT_EQ(saveText(row.text, Language::German), QString::fromUtf8(row.german));
     }
@@ -56,8 +61,8 @@ TEST(SaveTexts, ReadAsTheyShouldInBothLanguages)
 TEST(SaveTexts, StandInTheOrderOfTheirNames)
 {
     for (std::size_t i = 0; i < saveTexts.size(); ++i) {
-        EXPECT_EQ(static_cast<std::size_t>(saveTexts[i].text), i);
-        EXPECT_EQ(saveTexts[i].text, expected[i].text);
+        EXPECT_EQ(static_cast<std::size_t>(saveTexts[i].key), i);
+        EXPECT_EQ(saveTexts[i].key, expected[i].text);
     }
 }
 

@@ -50,7 +50,7 @@ INSTANTIATE_TEST_SUITE_P(
 TEST(MainTextTable, EveryRowStandsAtItsOwnPlace)
 {
     for (std::size_t i = 0; i < mainTexts.size(); ++i) {
-        EXPECT_EQ(static_cast<std::size_t>(mainTexts.at(i).text), i);
+        EXPECT_EQ(static_cast<std::size_t>(mainTexts.at(i).key), i);
     }
 }
 

@@ -1,6 +1,7 @@
 #include "shell/lifecycle.h"
 
 #include "platform/number_text.h"
+#include "store/side.h"
 #include "support/printers.h"
 
 #include <gmock/gmock.h>

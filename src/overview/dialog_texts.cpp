@@ -1,0 +1,50 @@
+#include "overview/dialog_texts.h"
+
+#include "platform/list_combo.h"
+#include "shell/editor.h"
+
+#include <QLabel>
+#include <QPushButton>
+
+namespace torvane {
+
+void applyCaptionTable(QWidget& window, std::span<const CaptionRow> captions, Language language)
+{
+    for (const CaptionRow& row : captions) {
+        const QString caption = row.caption.in(language);
+        if (row.control == window.objectName()) {
+            window.setWindowTitle(caption);
+        } else if (auto* label = window.findChild<QLabel*>(row.control)) {
+            label->setText(caption);
+        } else if (auto* button = window.findChild<QPushButton*>(row.control)) {
+            button->setText(caption);
+        }
+    }
+}
+
+void applyControlTips(QWidget& window, std::span<const CaptionRow> tips, Language language)
+{
+    for (const CaptionRow& row : tips) {
+        if (auto* control = window.findChild<QWidget*>(row.control)) {
+            control->setToolTip(row.caption.in(language));
+            control->setAccessibleDescription(row.caption.in(language));
+        }
+    }
+}
+
+void fillLists(QWidget& window, Language language)
+{
+    for (ListCombo* list : window.findChildren<ListCombo*>()) {
+        list->addItems(listContents(list->objectName(), language));
+    }
+}
+
+void showOutOfRange(Editor& editor, OverviewMessage message)
+{
+    editor.services().messageBoxes.show(
+        {.text = overviewMessage(message, editor.language()),
+         .title = overviewMessage(OverviewMessage::OutOfRangeTitle, editor.language()),
+         .icon = MessageBox::Icon::Information});
+}
+
+} // namespace torvane
