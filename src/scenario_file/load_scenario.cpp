@@ -5,11 +5,10 @@
 #include "platform/runtime_error.h"
 #include "platform/text_files.h"
 #include "scenario_file/scenario_format.h"
+#include "store/profile_keys.h"
 #include "store/working_profile.h"
 
-#include <QFileInfo>
-
-#include <array>
+#include <span>
 
 namespace torvane {
 
@@ -19,7 +18,6 @@ namespace {
 // the one of its place.
 constexpr int headKeysPerStep = 7;
 constexpr int shipKeysPerStep = 11;
-constexpr int divisionsWithEntries = 6;
 
 void step(const LoadProgress& advance)
 {
@@ -133,7 +131,7 @@ void ScenarioReader::copyDivision(int division)
 
 Profile readScenario(const QString& path, const WorkingProfile& profile)
 {
-    if (QFileInfo(path) == QFileInfo(profile.path())) {
+    if (profile.liesAt(path)) {
         throw RuntimeError(RuntimeError::PermissionDenied,
                            QStringLiteral("%1: the scenario under edit lies here.").arg(path));
     }
@@ -162,15 +160,15 @@ int targetValue(const WorkingProfile& profile, QStringView key)
     return toInt32(numberValue(profile.GetIniKey(scenarioDataSection, key)));
 }
 
-// Where Force A has no area, the one of Force B applies: its x, never its z. Kept.
+// The first four slots. Where Force A has no area, the one of Force B applies: its x, never its z. Kept.
 void readTarget(const WorkingProfile& profile, TargetArea& target)
 {
-    target.x = targetValue(profile, u"BLUE_TARGETBOX_X");
-    target.z = targetValue(profile, u"BLUE_TARGETBOX_Z");
-    if (profile.GetIniKey(scenarioDataSection, u"BLUE_TARGETBOXDIM") == u"0") {
+    target.x = targetValue(profile, keyTable[0]);
+    target.z = targetValue(profile, keyTable[1]);
+    if (profile.GetIniKey(scenarioDataSection, keyTable[2]) == u"0") {
         target.x = 0;
         target.z = 0;
-        target.x = targetValue(profile, u"RED_TARGETBOX_X");
+        target.x = targetValue(profile, keyTable[3]);
     }
 }
 
@@ -198,15 +196,15 @@ void restoreTargetArea(WorkingProfile& profile, TargetArea& target, const LoadPr
 
 namespace {
 
-constexpr std::array divisionValues{QStringView(u"DIVISIONNAME"),     QStringView(u"SIDE"),
-                                    QStringView(u"FORMATION"),        QStringView(u"FORMATIONHEADING"),
-                                    QStringView(u"FORMATIONSPACING"), QStringView(u"SPEED")};
+/// The slots of a division's settings.
+constexpr std::size_t firstSetting = 10;
+constexpr std::size_t settingCount = 6;
 
 // A value that is missing leaves no line, so that those behind it move up.
 QStringList settingsOf(const WorkingProfile& profile, QStringView section)
 {
     QStringList values;
-    for (const QStringView key : divisionValues) {
+    for (const QStringView key : std::span(keyTable).subspan<firstSetting, settingCount>()) {
         const QString value = profile.GetIniKey(section, key);
         if (value != invalidValue) {
             values.append(value);
@@ -245,9 +243,7 @@ void rebuildDivisionFiles(const WorkingProfile& profile, const ScratchFiles& fil
         }
         const Side side = sideText.trimmed().toUpper() == u"BLUE" ? Side::Blue : Side::Red;
         const int number = ++(side == Side::Blue ? blue : red);
-        if (number <= divisionsWithEntries) {
-            menus.showDivision(side, number);
-        }
+        menus.showDivision(side, number);
         const QString settings = files.divDataFile(side, number);
         files.write(settings, settingsOf(profile, section));
         menus.enableForces();

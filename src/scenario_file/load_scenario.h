@@ -2,6 +2,7 @@
 
 #include "platform/profile.h"
 #include "store/scratch_files.h"
+#include "store/side.h"
 #include "store/target_area.h"
 
 #include <QString>
@@ -20,7 +21,8 @@ class ForceMenus
 {
 public:
     virtual ~ForceMenus() = default;
-    /// Shows the Edit and Reposition entries of a division; `number` counts from 1 to 6 within its side.
+    /// Shows the Edit and Reposition entries of a division; `number` counts from 1 within its side. There are
+    /// none beyond 6.
     virtual void showDivision(Side side, int number) = 0;
     /// Makes what is there to create, edit and reposition divisions of both sides usable.
     virtual void enableForces() = 0;
@@ -28,8 +30,8 @@ public:
     virtual void addRepositionMenuEntry(const QString& name, const QString& side) = 0;
 };
 
-/// A scenario file, read and parsed. Any content will do. Throws RuntimeError, naming the file, where it can't
-/// be read or is the working profile itself, which a load deletes.
+/// A scenario file, read and parsed. Any content will do. Throws RuntimeError, naming the file, where it
+/// can't be read or is the working profile itself, which a load deletes.
 Profile readScenario(const QString& path, const WorkingProfile& profile);
 
 /// The store as a load leaves it, from its four steps below in their order. Writes key by key: the caller

@@ -36,6 +36,9 @@ public:
 
     void showDivision(Side side, int number) override
     {
+        if (number > divisionsPerSide) {
+            return;
+        }
         const bool forceA = side == Side::Blue;
         m_menu.setVisible(editEntryName(forceA, number), true);
         m_menu.setVisible(QLatin1StringView(repositionRow(forceA, number).entry), true);

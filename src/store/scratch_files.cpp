@@ -15,6 +15,7 @@ namespace {
 
 // Beyond the six divisions of a side; the clean-up has always gone this far.
 constexpr int killedDivisions = 8;
+constexpr int mostDivisions = 12;
 
 constexpr QLatin1StringView shipTrackName{"ShipTrack.bmm"};
 constexpr QLatin1StringView workingProfileName{"iniTemp.bmm"};
@@ -58,6 +59,18 @@ QByteArrayView valueOf(QByteArrayView line)
 QStringList editCopies()
 {
     return {shipRemoveName, exisitTempName, tempIniTempName};
+}
+
+/// Files that only a loaded scenario with more divisions on a side than the clean-up knows has.
+QStringList surplusDivisions()
+{
+    QStringList names;
+    for (const Side side : {Side::Blue, Side::Red}) {
+        for (int number = killedDivisions + 1; number <= mostDivisions; ++number) {
+            names << divisionName(side, number) << divDataName(side, number);
+        }
+    }
+    return names;
 }
 
 /// The files of a folder that a write under one of the names left half done: the name, a dot, six letters or
@@ -174,8 +187,8 @@ void ScratchFiles::killFiles()
 
 void ScratchFiles::removeLeftovers()
 {
-    const QStringList copies = editCopies();
-    for (const QString& name : copies + halfWritten(m_workDir, killList() + copies)) {
+    const QStringList leftovers = editCopies() + surplusDivisions();
+    for (const QString& name : leftovers + halfWritten(m_workDir, killList() + leftovers)) {
         try {
             remove(name);
         } catch (const RuntimeError&) {

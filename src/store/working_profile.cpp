@@ -4,6 +4,7 @@
 #include "store/profile_keys.h"
 
 #include <QDir>
+#include <QFileInfo>
 
 #include <algorithm>
 
@@ -89,6 +90,12 @@ QByteArrayView GetIniKey(const Profile& profile, QByteArrayView section, QByteAr
 WorkingProfile::WorkingProfile(ProfileStore& store, const QString& workDir)
     : m_store(store), m_path(QDir(workDir).filePath(QStringLiteral("iniTemp.bmm")))
 {
+}
+
+bool WorkingProfile::liesAt(const QString& path) const
+{
+    // Two files that are not there count as the same.
+    return QFileInfo::exists(path) && QFileInfo(path) == QFileInfo(m_path);
 }
 
 QString WorkingProfile::GetIniKey(QStringView section, QStringView key) const

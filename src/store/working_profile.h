@@ -31,6 +31,8 @@ public:
     WorkingProfile(ProfileStore& store, const QString& workDir);
 
     const QString& path() const { return m_path; }
+    /// Whether a path, however it is spelled, leads to the profile's file, which is there.
+    bool liesAt(const QString& path) const;
 
     /// See the free function.
     QString GetIniKey(QStringView section, QStringView key) const;

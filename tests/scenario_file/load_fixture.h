@@ -14,7 +14,7 @@ class MenuLog : public ForceMenus
 public:
     void showDivision(Side side, int number) override
     {
-        calls << QStringLiteral("show %1%2").arg(side == Side::Blue ? u'A' : u'B').arg(number);
+        calls << QStringLiteral("show ") + (side == Side::Blue ? u'A' : u'B') + QString::number(number);
     }
     void enableForces() override { calls << QStringLiteral("enable"); }
     void addRepositionMenuEntry(const QString& name, const QString& side) override

@@ -37,9 +37,10 @@ TEST_F(Loading, ReplacesTheOldProfileWhole)
 
 TEST_F(Loading, GivesTheNamesOfAirSuperiorityTheirCodesAndKeepsOtherTexts)
 {
-    const char* const rows[][2] = {{"None", "2"}, {"Force A", "3"}, {"Contested", "4"}, {"Force B", "5"},
-                                   {"INVALID", "2"}, {"", "2"}, {"2", "2"}, {"3", "3"}, {"4", "4"},
-                                   {"5", "5"}, {"none", "none"}, {"Keine", "Keine"}};
+    const char* const rows[][2] = {{"None", "2"},    {"Force A", "3"}, {"Contested", "4"},
+                                   {"Force B", "5"}, {"INVALID", "2"}, {"", "2"},
+                                   {"2", "2"},       {"3", "3"},       {"4", "4"},
+                                   {"5", "5"},       {"none", "none"}, {"Keine", "Keine"}};
     for (const auto& row : rows) {
         load(section("SCENARIODATA", {QByteArray("AIR_SUPERIORITY=") + row[0]}));
         EXPECT_EQ(value("SCENARIODATA", "AIR_SUPERIORITY"), QLatin1StringView(row[1])) << row[0];
@@ -95,9 +96,9 @@ TEST_F(Loading, WritesTheWordInvalidForOtherKeysThatAreMissing)
 
 TEST_F(Loading, TurnsTheMetresOfTheSpacingTableBackToYards)
 {
-    const char* const rows[][2] = {{"457.2", "500"}, {"548.64", "600"}, {"640.08", "700"},
-                                   {"731.52", "800"}, {"822.96", "900"}, {"914.4", "1000"},
-                                   {"1371.6", "1500"}, {"1828.8", "2000"}, {"850", "850"}, {"1000", "1000"}};
+    const char* const rows[][2] = {
+        {"457.2", "500"},  {"548.64", "600"},  {"640.08", "700"},  {"731.52", "800"}, {"822.96", "900"},
+        {"914.4", "1000"}, {"1371.6", "1500"}, {"1828.8", "2000"}, {"850", "850"},    {"1000", "1000"}};
     for (const auto& row : rows) {
         load(divisionOf(0, "Blue", {QByteArray("FORMATIONSPACING=") + row[0]}));
         EXPECT_EQ(value("DIVISION0", "FORMATIONSPACING"), QLatin1StringView(row[1]));
@@ -106,9 +107,9 @@ TEST_F(Loading, TurnsTheMetresOfTheSpacingTableBackToYards)
 
 TEST_F(Loading, TakesPositionsFromTheKeptYardsAndTurnsZBack)
 {
-    load(divisionOf(0, "Blue") +
-         shipOf(0, 0, {"NAME=Cossack", "XPOSITION=1", "YPOSITION=2.50", "ZPOSITION=3", "YARDSXPOSITION=007.50",
-                       "YARDSZPOSITION=-0100.0"}));
+    load(divisionOf(0, "Blue") + shipOf(0, 0,
+                                        {"NAME=Cossack", "XPOSITION=1", "YPOSITION=2.50", "ZPOSITION=3",
+                                         "YARDSXPOSITION=007.50", "YARDSZPOSITION=-0100.0"}));
     EXPECT_EQ(value("DIVISION0SHIP0", "XPOSITION"), QStringLiteral("007.50"));
     EXPECT_EQ(value("DIVISION0SHIP0", "YPOSITION"), QStringLiteral("2.50"));
     EXPECT_EQ(value("DIVISION0SHIP0", "ZPOSITION"), QStringLiteral("100"));
@@ -131,8 +132,8 @@ TEST_F(Loading, KeepsGapsAndLeavesOutRemovedShips)
          shipOf(1, 4, {"NAME="}) + shipOf(1, 13, {"NAME=Zulu"}) + shipOf(1, 14, {"NAME=Far"}) +
          divisionOf(11, "Red") + shipOf(11, 5, {"NAME=Z 1"}) + divisionOf(12, "Red"));
     const QByteArray bytes = profileBytes();
-    for (const char* head : {"[DIVISION1]", "[DIVISION1SHIP0]", "[DIVISION1SHIP13]", "[DIVISION11]",
-                             "[DIVISION11SHIP5]"}) {
+    for (const char* head :
+         {"[DIVISION1]", "[DIVISION1SHIP0]", "[DIVISION1SHIP13]", "[DIVISION11]", "[DIVISION11SHIP5]"}) {
         EXPECT_TRUE(bytes.contains(head)) << head;
     }
     EXPECT_EQ(bytes.count('['), 3 + 5);
