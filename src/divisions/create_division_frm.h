@@ -21,6 +21,9 @@ public:
     QCheckBox* const chkReposition = hiddenControl<QCheckBox>("chkReposition");
     /// "Force A (Blue)" or "Force B (Red)", in both languages: it is compared.
     QLabel* const lblside = hiddenControl<QLabel>("lblside");
+    QLabel* const LblPicMap = hiddenControl<QLabel>("LblPicMap");
+    /// Tells where the map last placed the division.
+    void showPlacement(const QString& text) { LblPicMap->setText(text); }
     /// `chkDiv1` to `chkDiv12`: which division an edit is about.
     std::array<QCheckBox*, 12> chkDiv{};
 };

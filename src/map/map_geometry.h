@@ -102,4 +102,9 @@ PixelOffset flooredOffsetOf(Yards position, float scale);
 /// Back to yards, rounded: always multiples of a whole scale. Throws Overflow beyond 32 bits.
 Yards positionAt(PixelOffset offset, float scale);
 
+/// A point turned about another by a heading in degrees: up becomes the heading. The offset is rounded to
+/// pixels. Angle, sine and cosine are of single precision. Throws Overflow beyond 32 bits.
+PixelOffset turnedAbout(PixelOffset anchor, PixelOffset point, std::int16_t heading);
+PixelPoint turnedAbout(PixelPoint centre, PixelPoint point, std::int16_t heading);
+
 } // namespace torvane

@@ -35,50 +35,65 @@ void PictureBox::clear()
     update();
 }
 
-void PictureBox::line(QPoint from, QPoint to)
+PictureBox::Batch::Batch(PictureBox& picture) : m_picture(picture)
 {
+    m_picture.m_painter.emplace(&m_picture.m_image);
+}
+
+PictureBox::Batch::~Batch()
+{
+    m_picture.m_painter.reset();
+    m_picture.update();
+}
+
+template <typename Drawing>
+void PictureBox::draw(Drawing drawing)
+{
+    if (m_painter) {
+        m_painter->setPen(m_foreColor);
+        drawing(*m_painter);
+        return;
+    }
     QPainter painter(&m_image);
     painter.setPen(m_foreColor);
-    painter.drawLine(from, to);
+    drawing(painter);
     update();
+}
+
+void PictureBox::line(QPoint from, QPoint to)
+{
+    draw([&](QPainter& painter) { painter.drawLine(from, to); });
 }
 
 void PictureBox::box(QPoint from, QPoint to)
 {
-    QPainter painter(&m_image);
-    painter.setPen(m_foreColor);
-    painter.drawRect(boxOf(from, to).adjusted(0, 0, -1, -1));
-    update();
+    draw([&](QPainter& painter) { painter.drawRect(boxOf(from, to).adjusted(0, 0, -1, -1)); });
 }
 
 void PictureBox::filledBox(QPoint from, QPoint to)
 {
-    QPainter painter(&m_image);
-    painter.fillRect(boxOf(from, to), m_foreColor);
-    update();
+    draw([&](QPainter& painter) { painter.fillRect(boxOf(from, to), m_foreColor); });
 }
 
 void PictureBox::circle(QPoint centre, int radius)
 {
-    QPainter painter(&m_image);
-    painter.setPen(m_foreColor);
-    if (radius == 0) {
-        painter.drawPoint(centre);
-    } else {
-        painter.drawEllipse(centre, radius, radius);
-    }
-    update();
+    draw([&](QPainter& painter) {
+        if (radius == 0) {
+            painter.drawPoint(centre);
+        } else {
+            painter.drawEllipse(centre, radius, radius);
+        }
+    });
 }
 
 void PictureBox::print(const QString& text)
 {
-    QPainter painter(&m_image);
-    painter.setFont(font());
-    painter.setPen(m_foreColor);
     const QFontMetrics metrics(font());
-    painter.drawText(m_current + QPoint(0, metrics.ascent()), text);
+    draw([&](QPainter& painter) {
+        painter.setFont(font());
+        painter.drawText(m_current + QPoint(0, metrics.ascent()), text);
+    });
     m_current = QPoint(0, m_current.y() + metrics.height());
-    update();
 }
 
 void PictureBox::paintEvent(QPaintEvent* event)

@@ -2,7 +2,10 @@
 
 #include <QColor>
 #include <QImage>
+#include <QPainter>
 #include <QWidget>
+
+#include <optional>
 
 namespace torvane {
 
@@ -42,17 +45,35 @@ public:
     /// What the box shows.
     const QImage& image() const { return m_image; }
 
+    /// While one lives, drawing goes on with one painter, and the screen is updated once, at its end. The
+    /// picture's size doesn't change meanwhile.
+    class Batch
+    {
+    public:
+        explicit Batch(PictureBox& picture);
+        ~Batch();
+        Batch(const Batch&) = delete;
+        Batch& operator=(const Batch&) = delete;
+
+    private:
+        PictureBox& m_picture;
+    };
+
 protected:
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 
 private:
     void growImage(QSize size);
+    /// Draws with a painter that has the fore colour.
+    template <typename Drawing>
+    void draw(Drawing drawing);
 
     QImage m_image;
     QColor m_backColor;
     QColor m_foreColor{Qt::black};
     QPoint m_current{0, 0};
+    std::optional<QPainter> m_painter; ///< of a batch
 };
 
 } // namespace torvane
