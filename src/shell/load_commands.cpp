@@ -80,6 +80,7 @@ void rebuildFrom(const Profile& file, Editor& editor)
     LoadedForces forces(mainFrm.menu());
     rebuildStore(file, editor.workingProfile(), editor.scratchFiles(), target, forces, advance);
     editor.divisionRecords().recount();
+    mainFrm.readMapScale();
 }
 
 void showLoaded(Editor& editor)

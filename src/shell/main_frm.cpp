@@ -306,6 +306,7 @@ void MainFrm::unload()
 void MainFrm::killFiles()
 {
     m_editor.scratchFiles().killFiles();
+    m_editor.scratchFiles().killSurplusDivisions();
 }
 
 void MainFrm::emptyDBase()

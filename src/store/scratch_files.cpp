@@ -15,6 +15,7 @@ namespace {
 
 // Beyond the six divisions of a side; the clean-up has always gone this far.
 constexpr int killedDivisions = 8;
+// What a loaded scenario can have on one side.
 constexpr int mostDivisions = 12;
 
 constexpr QLatin1StringView shipTrackName{"ShipTrack.bmm"};
@@ -59,18 +60,6 @@ QByteArrayView valueOf(QByteArrayView line)
 QStringList editCopies()
 {
     return {shipRemoveName, exisitTempName, tempIniTempName};
-}
-
-/// Files that only a loaded scenario with more divisions on a side than the clean-up knows has.
-QStringList surplusDivisions()
-{
-    QStringList names;
-    for (const Side side : {Side::Blue, Side::Red}) {
-        for (int number = killedDivisions + 1; number <= mostDivisions; ++number) {
-            names << divisionName(side, number) << divDataName(side, number);
-        }
-    }
-    return names;
 }
 
 /// The files of a folder that a write under one of the names left half done: the name, a dot, six letters or
@@ -185,10 +174,20 @@ void ScratchFiles::killFiles()
     }
 }
 
+void ScratchFiles::killSurplusDivisions()
+{
+    for (const Side side : {Side::Blue, Side::Red}) {
+        for (int number = killedDivisions + 1; number <= mostDivisions; ++number) {
+            remove(divisionName(side, number));
+            remove(divDataName(side, number));
+        }
+    }
+}
+
 void ScratchFiles::removeLeftovers()
 {
-    const QStringList leftovers = editCopies() + surplusDivisions();
-    for (const QString& name : leftovers + halfWritten(m_workDir, killList() + leftovers)) {
+    const QStringList copies = editCopies();
+    for (const QString& name : copies + halfWritten(m_workDir, killList() + copies)) {
         try {
             remove(name);
         } catch (const RuntimeError&) {

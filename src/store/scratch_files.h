@@ -46,9 +46,12 @@ public:
     /// at the first that can't be deleted.
     void killFiles();
 
-    /// Deletes what an earlier run can have left beyond that list: the copies of an edit in progress,
-    /// half-written files, the files of a ninth and further division of a side. A file that can't be deleted
-    /// stays.
+    /// Deletes the files of a ninth and further division of a side, which only a loaded scenario has. Throws
+    /// as `killFiles`.
+    void killSurplusDivisions();
+
+    /// Deletes what only a run that was killed can have left: the copies of an edit in progress and
+    /// half-written files. A file that can't be deleted stays.
     void removeLeftovers();
 
 private:

@@ -1,6 +1,8 @@
 #pragma once
 
 #include "divisions/create_division_frm.h"
+#include "overview/scenario_data.h"
+#include "platform/code_page.h"
 #include "shell/commands.h"
 #include "shell/main_menu.h"
 #include "windows/save_fixture.h"
@@ -32,9 +34,16 @@ protected:
     }
     void cancelOverview() { click(button("CmdCancel")); }
 
+    /// A whole scenario section: these lines, and what a new scenario has for the rest.
     static QByteArray data(const QByteArrayList& lines)
     {
-        return "[SCENARIODATA]\r\n" + lines.join("\r\n") + "\r\n";
+        QByteArray bytes = "[SCENARIODATA]\r\n" + lines.join("\r\n") + "\r\n";
+        for (const auto& [key, value] :
+             encodeScenario(scenarioDefaults(Language::English), Language::English)) {
+            // Of two lines of one key the first counts.
+            bytes += toCodePage(key) + '=' + toCodePage(value) + "\r\n";
+        }
+        return bytes;
     }
     static QByteArray division(int n, const QByteArray& side, const QByteArray& ship = {})
     {

@@ -153,7 +153,7 @@ TEST_F(Load, ReadsTheTargetAreaAndKeepsItForAMissionThatHasOne)
                "BLUE_TARGETBOX_Z=-700", "BLUE_TARGETBOXDIM=9260"}));
     EXPECT_EQ(main().targetArea(), (TargetArea{500, 700, 9260}));
     cancelOverview();
-    EXPECT_TRUE(main().targetAreaInUse());
+    EXPECT_TRUE(main().map().state().target.inUse);
     EXPECT_EQ(main().targetArea(), (TargetArea{500, 700, 9260}));
 }
 
@@ -165,6 +165,16 @@ TEST_F(Load, DropsTheTargetAreaBehindTheOverviewOfAMissionWithoutOne)
     EXPECT_EQ(main().targetArea(), (TargetArea{500, 700, 9260}));
     cancelOverview();
     EXPECT_EQ(main().targetArea(), TargetArea{});
+}
+
+TEST_F(Load, TakesTheScaleOfTheMapFromItsTable)
+{
+    startPastSplash(Language::English);
+    const float day = main().map().state().view.mapScale;
+    setValue(main().chkDayNight, 0);
+    load(narvik());
+    EXPECT_NE(main().map().state().view.mapScale, day);
+    EXPECT_EQ(main().map().state().view.mapScale, mapScale(main().map().state().view.zoomIndex, false));
 }
 
 TEST_F(Load, LeavesTheFlagsOfANewScenarioAsTheyAre)
