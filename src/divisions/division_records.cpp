@@ -132,6 +132,12 @@ QStringList DivisionRecords::listOf(Side side, int number) const
     return isThere(path) ? m_files.read(path) : QStringList();
 }
 
+QStringList DivisionRecords::listBeforeEdit() const
+{
+    const QString path = m_files.exisitTemp();
+    return isThere(path) ? m_files.read(path) : QStringList();
+}
+
 int DivisionRecords::countDivisionShips(Side side, int number) const
 {
     return static_cast<int>(listOf(side, number).size());
@@ -151,6 +157,17 @@ void DivisionRecords::writeKeys(const QString& section, const DivisionVars& vars
         m_profile.write(section, u"FLAGSHIPINDEX ", QString::number(*fields.flagshipRow));
     }
     m_profile.write(section, u"ENCUMBERED", fields.encumbered ? u"1" : u"0");
+}
+
+void DivisionRecords::requireShips(const DivisionFields& fields, bool created) const
+{
+    const DivisionVars vars = readDialogFields(fields);
+    const QStringList kept = created ? QStringList() : listBeforeEdit();
+    for (const QString& line : listOf(sideOfWord(vars.side), toInt16(numberValue(vars.number)))) {
+        if (!kept.contains(line)) {
+            m_ships.requireRecord(nameOf(line));
+        }
+    }
 }
 
 void DivisionRecords::saveToINI(const DivisionFields& fields, bool created)
@@ -192,8 +209,7 @@ void DivisionRecords::moveShips(int division, const DivisionVars& vars, int oldC
 {
     const Side side = sideOfWord(vars.side);
     const QStringList lines = listOf(side, toInt16(numberValue(vars.number)));
-    const QStringList before =
-        isThere(m_files.exisitTemp()) ? m_files.read(m_files.exisitTemp()) : QStringList();
+    const QStringList before = listBeforeEdit();
     int place = 0;
     for (const QString& line : lines) {
         const QString target = shipSection(division, place);

@@ -91,6 +91,9 @@ public:
     /// The real `DIVISIONCNT`; if there is no division, the fallback count of the main window.
     void writeDivisionCount(const QString& fallback);
 
+    /// Throws as saving the division would where the catalogue can't serve one of its ships; writes nothing.
+    /// A ship that an edited division had before needs no catalogue.
+    void requireShips(const DivisionFields& fields, bool created) const;
     /// Writes a new division and its ships. `created` is the dialog's create mode.
     void saveToINI(const DivisionFields& fields, bool created);
     /// Writes an edited division: its settings, and each ship's record at the ship's new place.
@@ -119,6 +122,7 @@ public:
 
 private:
     QStringList listOf(Side side, int number) const;
+    QStringList listBeforeEdit() const;
     void writeKeys(const QString& section, const DivisionVars& vars, const DivisionFields& fields, int ships);
     void moveShips(int division, const DivisionVars& vars, int oldCount);
 

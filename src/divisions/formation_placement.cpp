@@ -60,6 +60,8 @@ PixelOffset convoyPoint(int count, int place, std::int16_t step, PixelOffset anc
             .z = toInt32(double{pixels * z + static_cast<float>(anchor.z)})};
 }
 
+} // namespace
+
 PixelOffset turnedAbout(PixelOffset anchor, PixelOffset point, std::int16_t heading)
 {
     constexpr float radiansPerDegree = 0.017453292F;
@@ -71,8 +73,6 @@ PixelOffset turnedAbout(PixelOffset anchor, PixelOffset point, std::int16_t head
     return {.x = toInt32(anchor.x + roundEven(dx * c + dz * s)),
             .z = toInt32(anchor.z + roundEven(-s * dx + dz * c))};
 }
-
-} // namespace
 
 std::optional<Formation> formationOf(QStringView stored)
 {
