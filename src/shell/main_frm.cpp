@@ -8,6 +8,7 @@
 #include "scenario_file/save_scenario.h"
 #include "shell/about_frm.h"
 #include "shell/captions.h"
+#include "shell/division_commands.h"
 #include "shell/editor.h"
 #include "shell/main_menu.h"
 #include "shell/new_scenario.h"
@@ -142,6 +143,9 @@ void MainFrm::connectCommands()
     command("mnuSave", [this] { saveScenario(m_editor); });
     command("mnuSaveAs", [this] { saveScenarioAs(m_editor); });
     command("mnuOverView", [this] { showOverview(); });
+    for (const DivisionCommandRow& row : divisionCommandRows()) {
+        command(row.entry, [this, &row] { openDivisionDialog(m_editor, row); });
+    }
     command("mnuExit", [this] { unload(); });
     command("mnuHotText", [this] { toggleHelpTags(); });
     command("mnuAbout", [this] { showAbout(); });

@@ -9,7 +9,7 @@ class SavedDivision : public RecordsFixture
 {
 protected:
     void list(const QStringList& lines) { files.write(files.divisionFile(Side::Blue, 1), lines); }
-    void require(bool created) { records.requireShips(fields(Side::Blue, 1), created); }
+    void require(bool created) { records.requireSavable(fields(Side::Blue, 1), created); }
 };
 
 TEST_F(SavedDivision, OfShipsOfTheCatalogueIsFineAndWritesNothing)
@@ -50,6 +50,24 @@ TEST_F(SavedDivision, WithAListOfOtherTextIsTheCataloguesError)
     file.write("<html>\r\nnothing of ours");
     file.close();
     expectError(RuntimeError::NoCurrentRecord, [this] { require(true); });
+}
+
+TEST_F(SavedDivision, WithACountOfShipsBeyondItsBitsIsAnOverflowBeforeAnythingIsWritten)
+{
+    create(Side::Blue, 1, ships({1}));
+    profile.write(u"DIVISION0", u"SHIPCNT", u"40000");
+    expectError(RuntimeError::Overflow, [this] { require(false); });
+    require(true);
+}
+
+TEST_F(SavedDivision, TakesAnotherFlagshipAtOnce)
+{
+    create(Side::Red, 1, ships({1}));
+    create(Side::Blue, 1, ships({2, 3}));
+    EXPECT_TRUE(records.writeFlagship(readDialogFields(fields(Side::Blue, 1)), 1));
+    EXPECT_EQ(key(QStringLiteral("DIVISION1"), "FLAGSHIPINDEX"), QStringLiteral("1"));
+    EXPECT_EQ(key(QStringLiteral("DIVISION0"), "FLAGSHIPINDEX"), QStringLiteral("0"));
+    EXPECT_FALSE(records.writeFlagship(readDialogFields(fields(Side::Red, 2)), 3));
 }
 
 TEST_F(SavedDivision, WithAFolderInPlaceOfItsListNamesIt)
