@@ -24,6 +24,7 @@ namespace torvane {
 namespace {
 
 constexpr int divisionLimit = DivisionRecords::divisionsPerSide;
+constexpr int buttonMargin = 16;
 
 void setGround(QWidget* widget, const QColor& ground, const QColor& ink)
 {
@@ -48,6 +49,7 @@ CreateDivisionFrm::CreateDivisionFrm(Editor& editor)
     m_picMask->setAutoFillBackground(true);
     makeUnusedControls();
     makeGrid();
+    keepLockedReadable();
     connectSettings();
     connectButtons();
     setInputEnabled(false);
@@ -126,7 +128,7 @@ void CreateDivisionFrm::fixSizes()
                             std::array{m_ui->CmdSaveData, m_ui->cmdOK},
                             std::array{m_ui->CmdCancel, m_ui->CmdEditCancel}};
     for (const auto& [one, other] : places) {
-        const int width = std::max(one->sizeHint().width(), other->sizeHint().width());
+        const int width = std::max(one->sizeHint().width(), other->sizeHint().width()) + buttonMargin;
         one->setMinimumWidth(width);
         other->setMinimumWidth(width);
     }

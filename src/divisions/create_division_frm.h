@@ -68,6 +68,7 @@ protected:
 private:
     void makeUnusedControls();
     void makeGrid();
+    void keepLockedReadable();
     void connectSettings();
     void connectButtons();
     void applyMnemonics();

@@ -25,6 +25,7 @@ constexpr QSize lockSize(18, 18);
 const QColor lockedLine(150, 150, 150);
 const QColor openLine(31, 154, 86);
 const QColor openInk(15, 107, 58);
+const QColor lockedInk(72, 72, 72);
 const QColor bowColor(255, 255, 255);
 constexpr int bowSide = 4;
 
@@ -36,6 +37,19 @@ constexpr int rowHeight = 24;
 constexpr QLatin1StringView flagMark{"FL"};
 
 } // namespace
+
+void CreateDivisionFrm::keepLockedReadable()
+{
+    std::vector<QWidget*> controls = settingControls();
+    controls.push_back(m_ui->optEncumYES);
+    for (QWidget* control : controls) {
+        QPalette colors = control->palette();
+        for (const QPalette::ColorRole role : {QPalette::Text, QPalette::ButtonText, QPalette::WindowText}) {
+            colors.setColor(QPalette::Disabled, role, lockedInk);
+        }
+        control->setPalette(colors);
+    }
+}
 
 void CreateDivisionFrm::connectSettings()
 {
@@ -328,7 +342,7 @@ bool CreateDivisionFrm::eventFilter(QObject* watched, QEvent* event)
     if (Form::eventFilter(watched, event)) {
         return true;
     }
-    if (watched != m_ui->GrdDivision || event->type() != QEvent::KeyPress) {
+    if (event->type() != QEvent::KeyPress || watched != m_ui->GrdDivision) {
         return false;
     }
     const int key = static_cast<QKeyEvent*>(event)->key();

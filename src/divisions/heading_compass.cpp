@@ -9,12 +9,12 @@ namespace torvane {
 namespace {
 
 // An odd size has a pixel in its middle.
-constexpr int pictureSize = 81;
-constexpr int ringWidth = 22;
+constexpr int pictureSize = 121;
+constexpr int ringWidth = 24;
 constexpr int tickStep = 10;
 constexpr int longTickStep = 30;
 constexpr int letterStep = 90;
-constexpr double letterSize = 9; // points
+constexpr double letterSize = 10; // points
 
 const QColor cardColor(18, 42, 78);
 const QColor inkColor(236, 240, 246);
