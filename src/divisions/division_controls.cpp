@@ -331,7 +331,11 @@ void CreateDivisionFrm::leadToNextStep()
 {
     QPushButton* next = nextStep();
     for (QPushButton* button : findChildren<QPushButton*>()) {
-        button->setDefault(button == next);
+        if (qobject_cast<StepButton*>(button) == nullptr) {
+            // A button that takes Enter by its focus would lose the default with it.
+            button->setAutoDefault(button != next);
+            button->setDefault(button == next);
+        }
     }
     next->setFocus();
 }
