@@ -52,7 +52,6 @@ CreateDivisionFrm::CreateDivisionFrm(Editor& editor)
     keepLockedReadable();
     connectSettings();
     connectButtons();
-    setInputEnabled(false);
 }
 
 CreateDivisionFrm::~CreateDivisionFrm() = default;
@@ -116,7 +115,8 @@ void CreateDivisionFrm::applyMnemonics()
           m_ui->CmdNewDivision, m_ui->cmdDivDataChng, m_ui->cmdKeepDivData}) {
         taken.append(mnemonicOf(button->text()));
     }
-    for (QLabel* label : {m_ui->Label3, m_ui->Label5, m_ui->Label4, m_ui->Label2, m_ui->Label1}) {
+    // The label with the fewest free letters goes before the others that share them.
+    for (QLabel* label : {m_ui->Label3, m_ui->Label5, m_ui->Label2, m_ui->Label4, m_ui->Label1}) {
         label->setText(withMnemonic(label->text(), taken));
     }
 }
@@ -157,14 +157,14 @@ DivisionFields CreateDivisionFrm::fields() const
             .encumbered = m_ui->optEncumYES->isChecked()};
 }
 
-void CreateDivisionFrm::showPosition(const QString& x, const QString& z)
+void CreateDivisionFrm::showPlacement(const QString& text)
 {
-    m_ui->LblPicMap->setText(x + QStringLiteral(" X ") + z);
+    m_ui->LblPicMap->setText(text);
 }
 
 void CreateDivisionFrm::onActivate()
 {
-    const Hourglass hourglass;
+    const HourglassPointer hourglass;
     // Whatever fails on the way, the author can leave the dialog again.
     auto ready = qScopeGuard([this] { becomeReady(); });
     lblForceSide->setText(m_editor.overviewFrm().navy(side()));
@@ -214,6 +214,7 @@ void CreateDivisionFrm::refuseDivision()
 {
     m_editor.services().messageBoxes.show(
         {.text = divisionText(DivisionText::TooManyDivisions, m_editor.language()), .title = QString()});
+    setInputEnabled(true);
     DivisionRecords& records = m_editor.divisionRecords();
     cancelSub();
     const int count = side() == Side::Blue ? records.blueDivCount() : records.redDivCount();
@@ -226,7 +227,6 @@ void CreateDivisionFrm::resetDialogForNewDivision()
     clearGrid();
     showDivisionInDialog(vars, false);
     showName(vars.name, vars.name);
-    m_ui->LblPicMap->setText(QStringLiteral(" 0 X 0"));
 }
 
 void CreateDivisionFrm::beginEdit()
@@ -258,7 +258,7 @@ void CreateDivisionFrm::loadDivision(const QString& name, int number)
     const DivisionShips ships = records.loadDivisionShips(name, lblside->text());
     const QString x = QString::number(ships.xPosition.value_or(0));
     const QString z = QString::number(ships.zPosition.value_or(0));
-    showPosition(x, z);
+    showPlacement(x + QStringLiteral(" X ") + z);
     m_editor.mainFrm().txtXPosition->setText(x);
     m_editor.mainFrm().txtYPosition->setText(z);
     fillGrid(ships.lines, ships.flagshipRows);
@@ -338,7 +338,7 @@ void CreateDivisionFrm::ShipEnabled()
 
 void CreateDivisionFrm::saveCreated()
 {
-    const Hourglass hourglass;
+    const HourglassPointer hourglass;
     DivisionRecords& records = m_editor.divisionRecords();
     const DivisionFields shown = fields();
     records.requireSavable(shown, true);
@@ -355,7 +355,7 @@ void CreateDivisionFrm::saveCreated()
 
 void CreateDivisionFrm::saveEdited()
 {
-    const Hourglass hourglass;
+    const HourglassPointer hourglass;
     DivisionRecords& records = m_editor.divisionRecords();
     const DivisionFields shown = fields();
     records.requireSavable(shown, false);
@@ -416,7 +416,6 @@ void CreateDivisionFrm::leave()
 {
     m_editor.mainFrm().setInputEnabled(true);
     hideForm();
-    setInputEnabled(false);
     setValue(chkReturnFlag, 0);
     setValue(m_editor.mainFrm().ChkPlotDiv, 0);
 }

@@ -50,8 +50,8 @@ public:
     DivisionFields fields() const;
     /// Takes the ships that the ship dialog kept: type, blank, name. The first one becomes the flagship.
     void showKeptShips(int number, const QStringList& lines);
-    /// Shows where the division stands, in yards.
-    void showPosition(const QString& x, const QString& z);
+    /// Tells where the division stands, or where the map last placed it.
+    void showPlacement(const QString& text);
 
     /// Enables and shows the buttons by the grid's first row and the job.
     void ShipEnabled();

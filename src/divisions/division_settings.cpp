@@ -1,6 +1,5 @@
 #include "divisions/division_settings.h"
 
-#include "divisions/formation_placement.h"
 #include "overview/typed_values.h"
 #include "platform/number_text.h"
 #include "store/working_profile.h"

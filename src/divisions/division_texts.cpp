@@ -37,7 +37,7 @@ constexpr std::array<CaptionRow, 20> divisionCaptions{{
     {"Label1"_L1, {"Encumbered:", "Behindert:"}},
     {"optEncumYES"_L1, {"Yes", "Ja"}},
     {"optEncumNO"_L1, {"No", "Nein"}},
-    {"lblPosition"_L1, inBoth("Position:")},
+    {"lblPosition"_L1, {"Last position:", "Letzte Position:"}},
 }};
 
 constexpr std::array<CaptionRow, 19> divisionTips{{
@@ -62,7 +62,8 @@ constexpr std::array<CaptionRow, 19> divisionTips{{
     {"optEncumYES"_L1, encumberedTip},
     {"optEncumNO"_L1, encumberedTip},
     {"LblPicMap"_L1,
-     {"Where the division stands on the map, in yards", "Wo der Verband auf der Karte steht, in Yards"}},
+     {"Where the division stood when it was opened, or where the map placed one last, in yards",
+      "Wo der Verband beim Öffnen stand oder die Karte zuletzt einen platzierte, in Yards"}},
     {"GrdDivision"_L1,
      {"The ships of the division in their order; FL marks the flagship",
       "Die Schiffe des Verbands in ihrer Reihenfolge; FL bezeichnet das Flaggschiff"}},

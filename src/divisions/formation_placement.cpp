@@ -18,9 +18,6 @@ namespace {
 
 constexpr int places = FormationPlacement::places;
 
-/// The one short name that two ships of the catalogue share.
-constexpr QLatin1StringView ambiguousShortName{"Duncan"};
-
 /// A row a count of ships, a column a place. The rows of 8 and 10 ships are uneven. Kept.
 constexpr std::array<std::array<const char*, places>, places> convoyTable{{
     {"0,0", "", "", "", "", "", "", "", "", ""},
@@ -61,18 +58,6 @@ PixelOffset convoyPoint(int count, int place, std::int16_t step, PixelOffset anc
 }
 
 } // namespace
-
-PixelOffset turnedAbout(PixelOffset anchor, PixelOffset point, std::int16_t heading)
-{
-    constexpr float radiansPerDegree = 0.017453292F;
-    const float angle = (360.0F - static_cast<float>(heading)) * radiansPerDegree;
-    const double s = static_cast<float>(std::sin(double{angle}));
-    const double c = static_cast<float>(std::cos(double{angle}));
-    const double dx = static_cast<double>(point.x) - anchor.x;
-    const double dz = static_cast<double>(point.z) - anchor.z;
-    return {.x = toInt32(anchor.x + roundEven(dx * c + dz * s)),
-            .z = toInt32(anchor.z + roundEven(-s * dx + dz * c))};
-}
 
 std::optional<Formation> formationOf(QStringView stored)
 {

@@ -26,10 +26,6 @@ std::optional<Formation> formationOf(QStringView stored);
 /// Empty for a place beyond the count. Count and place are 1 to 10; others throw SubscriptOutOfRange.
 QLatin1StringView convoyOffset(int count, int place);
 
-/// A point turned about another by a heading: degrees, clockwise on a picture whose z grows down. Throws
-/// Overflow beyond 32 bits.
-PixelOffset turnedAbout(PixelOffset anchor, PixelOffset point, std::int16_t heading);
-
 /// Which division is to be placed, from texts such as "Blue 3" and "Red  6".
 struct RepositionKey
 {

@@ -6,6 +6,7 @@
 #include <QLatin1StringView>
 
 #include <algorithm>
+#include <cmath>
 
 namespace torvane {
 
@@ -51,6 +52,19 @@ std::optional<std::int16_t> gridIndexOf(QStringView option)
     return static_cast<std::int16_t>(found - gridOptions.begin());
 }
 
+QLatin1StringView zoomOption(int zoomIndex)
+{
+    return QLatin1StringView(levelAt(zoomIndex).option);
+}
+
+QLatin1StringView gridOption(int gridIndex)
+{
+    if (gridIndex < 0 || gridIndex >= static_cast<int>(gridOptions.size())) {
+        throw outOfRange(QStringLiteral("grid size"), gridIndex);
+    }
+    return QLatin1StringView(gridOptions.at(static_cast<std::size_t>(gridIndex)));
+}
+
 std::int16_t mapScale(int zoomIndex, bool day)
 {
     const ZoomLevel& level = levelAt(zoomIndex);
@@ -92,6 +106,25 @@ PixelOffset flooredOffsetOf(Yards position, float scale)
 Yards positionAt(PixelOffset offset, float scale)
 {
     return {.x = toInt32(double{scale} * offset.x), .z = toInt32(double{scale} * offset.z)};
+}
+
+PixelOffset turnedAbout(PixelOffset anchor, PixelOffset point, std::int16_t heading)
+{
+    constexpr float radiansPerDegree = 0.017453292F;
+    const float angle = (360.0F - static_cast<float>(heading)) * radiansPerDegree;
+    const double s = static_cast<float>(std::sin(double{angle}));
+    const double c = static_cast<float>(std::cos(double{angle}));
+    const double dx = static_cast<double>(point.x) - anchor.x;
+    const double dz = static_cast<double>(point.z) - anchor.z;
+    return {.x = toInt32(anchor.x + roundEven(dx * c + dz * s)),
+            .z = toInt32(anchor.z + roundEven(-s * dx + dz * c))};
+}
+
+PixelPoint turnedAbout(PixelPoint centre, PixelPoint point, std::int16_t heading)
+{
+    const PixelOffset turned =
+        turnedAbout(PixelOffset{.x = centre.x, .z = centre.y}, {.x = point.x, .z = point.y}, heading);
+    return {.x = turned.x, .y = turned.z};
 }
 
 } // namespace torvane

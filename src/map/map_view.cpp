@@ -33,7 +33,11 @@ std::int16_t movedOrigin(std::int16_t origin, bool grew, std::int16_t step)
 
 PixelPoint toScreen(Yards position, const ViewState& view)
 {
-    const PixelOffset offset = offsetOf(position, view.mapScale);
+    return fromOrigin(offsetOf(position, view.mapScale), view);
+}
+
+PixelPoint fromOrigin(PixelOffset offset, const ViewState& view)
+{
     return {.x = sum(view.mapOriginX, offset.x), .y = sum(view.mapOriginY, offset.z)};
 }
 

@@ -36,6 +36,7 @@ struct ViewState
 /// Between a place in the world and a pixel of the view, at the view's scale and origin. Throw Overflow as
 /// `offsetOf` and `positionAt` do.
 PixelPoint toScreen(Yards position, const ViewState& view);
+PixelPoint fromOrigin(PixelOffset offset, const ViewState& view);
 Yards toWorld(PixelPoint point, const ViewState& view);
 
 /// Takes the view's scale from the table, and the anchor from the cursor's yards. `zoomIndex` is up to date.

@@ -2,7 +2,10 @@
 
 #include <QColor>
 #include <QImage>
+#include <QPainter>
 #include <QWidget>
+
+#include <optional>
 
 namespace torvane {
 
@@ -34,7 +37,8 @@ public:
     /// The outline of the box with these corners, or the box filled.
     void box(QPoint from, QPoint to);
     void filledBox(QPoint from, QPoint to);
-    /// A circle of whole-pixel radius; 0 is a point.
+    /// A circle of whole-pixel radius, of any size anywhere; 0 is a point, and one below 0 is as large as its
+    /// opposite. Only the part in the picture takes time.
     void circle(QPoint centre, int radius);
     /// Writes a line of text at the current position, which moves to the start of the next line.
     void print(const QString& text);
@@ -42,17 +46,35 @@ public:
     /// What the box shows.
     const QImage& image() const { return m_image; }
 
+    /// While one lives, drawing goes on with one painter, and the screen is updated once, at its end. The
+    /// picture's size doesn't change meanwhile.
+    class Batch
+    {
+    public:
+        explicit Batch(PictureBox& picture);
+        ~Batch();
+        Batch(const Batch&) = delete;
+        Batch& operator=(const Batch&) = delete;
+
+    private:
+        PictureBox& m_picture;
+    };
+
 protected:
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 
 private:
     void growImage(QSize size);
+    /// Draws with a painter that has the fore colour.
+    template <typename Drawing>
+    void draw(Drawing drawing);
 
     QImage m_image;
     QColor m_backColor;
     QColor m_foreColor{Qt::black};
     QPoint m_current{0, 0};
+    std::optional<QPainter> m_painter; ///< of a batch
 };
 
 } // namespace torvane

@@ -5,7 +5,7 @@
 
 namespace torvane {
 
-static Qt::CursorShape shapeOf(Pointer pointer)
+Qt::CursorShape shapeOf(Pointer pointer)
 {
     switch (pointer) {
     case Pointer::Hourglass:
@@ -18,6 +18,16 @@ static Qt::CursorShape shapeOf(Pointer pointer)
         break;
     }
     return Qt::ArrowCursor;
+}
+
+HourglassPointer::HourglassPointer()
+{
+    setPointer(Pointer::Hourglass);
+}
+
+HourglassPointer::~HourglassPointer()
+{
+    setPointer(Pointer::Default);
 }
 
 void setPointer(Pointer pointer)

@@ -1,21 +1,26 @@
 #pragma once
 
+#include <QtCore/qnamespace.h>
+
 namespace torvane {
 
 /// The pointer's shape over the whole program.
 enum class Pointer { Default, Hourglass, Crosshair, SizeAll };
 
+/// The shape that the window system knows.
+Qt::CursorShape shapeOf(Pointer pointer);
+
 /// Sets the pointer of all windows; Default gives each window its own again.
 void setPointer(Pointer pointer);
 
-/// Shows the hourglass while it lives.
-class [[nodiscard]] Hourglass
+/// The hourglass over the whole program for as long as it lives.
+class HourglassPointer
 {
 public:
-    Hourglass() { setPointer(Pointer::Hourglass); }
-    ~Hourglass() { setPointer(Pointer::Default); }
-    Hourglass(const Hourglass&) = delete;
-    Hourglass& operator=(const Hourglass&) = delete;
+    HourglassPointer();
+    ~HourglassPointer();
+    HourglassPointer(const HourglassPointer&) = delete;
+    HourglassPointer& operator=(const HourglassPointer&) = delete;
 };
 
 } // namespace torvane

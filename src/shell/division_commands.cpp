@@ -19,6 +19,8 @@ void openDivisionDialog(Editor& editor, const DivisionCommandRow& command)
     } else {
         setValue(dialog.findChild<QCheckBox*>(QLatin1StringView(command.marker)), 1);
     }
+    // Its activation lets it take input: nobody can leave it before it knows its job.
+    dialog.setInputEnabled(false);
     dialog.showForm(&editor.mainFrm());
     editor.mainFrm().setInputEnabled(false);
 }

@@ -1,13 +1,14 @@
 #include "shell/main_frm.h"
 
 #include "divisions/create_division_frm.h"
+#include "map/map_surface.h"
+#include "map/tool_row.h"
 #include "overview/overview_frm.h"
-#include "platform/number_text.h"
-#include "platform/picture_box.h"
 #include "platform/pointer.h"
 #include "scenario_file/save_scenario.h"
 #include "shell/about_frm.h"
 #include "shell/captions.h"
+#include "shell/commands.h"
 #include "shell/division_commands.h"
 #include "shell/editor.h"
 #include "shell/main_menu.h"
@@ -16,31 +17,18 @@
 #include "shell/splash_frm.h"
 #include "store/working_tables.h"
 
+#include <QAbstractButton>
 #include <QAction>
 #include <QFileInfo>
 #include <QKeyEvent>
 #include <QMenuBar>
 #include <QResizeEvent>
-#include <QScrollBar>
 #include <QVBoxLayout>
 
 namespace torvane {
 
 namespace {
 
-// The sea by day and by night.
-const QColor daySea(1, 176, 235);
-const QColor nightSea(0, 0, 128);
-const QColor helpTagColor(255, 255, 128);
-
-// The window's inner layout in its normal state, in pixels.
-constexpr int mapTop = 48;
-constexpr int mapWidth = 625;
-constexpr int mapHeight = 417;
-constexpr int scrollBarSize = 18;
-constexpr int scrollBarRange = 32767;
-constexpr int rulerLeft = 320;
-constexpr int helpTagHeight = 17;
 constexpr double smallestMenuFont = 7.5; // points
 constexpr double captionPixels = 5.5;    // width of a character of a caption
 
@@ -56,8 +44,8 @@ MainFrm::MainFrm(Editor& editor) : EditorForm(editor, QStringLiteral("MainFrm"),
         "QMenuBar::item:selected { background: palette(highlight); color: palette(highlighted-text); }"));
     m_menu = new MainMenu(bar);
     makeSurface();
-    makeHelpTags();
     connectCommands();
+    connectMap();
 }
 
 MainFrm::~MainFrm()
@@ -75,63 +63,10 @@ void MainFrm::makeSurface()
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setMenuBar(findChild<QMenuBar*>());
-    auto* surface = new QWidget(this);
-    surface->setObjectName(QStringLiteral("surface"));
-    surface->setMinimumSize(mapWidth + scrollBarSize, mapTop + mapHeight + scrollBarSize);
-    layout->addWidget(surface);
-
-    m_pictureMain = new PictureBox(surface);
-    m_pictureMain->setObjectName(QStringLiteral("Picture_Main"));
-    m_pictureMain->setFocusPolicy(Qt::StrongFocus);
-    m_hScroll = new QScrollBar(Qt::Horizontal, surface);
-    m_hScroll->setObjectName(QStringLiteral("HScroll1"));
-    m_vScroll = new QScrollBar(Qt::Vertical, surface);
-    m_vScroll->setObjectName(QStringLiteral("VScroll1"));
-    for (QScrollBar* bar : {m_hScroll, m_vScroll}) {
-        bar->setRange(0, scrollBarRange);
-        bar->setFocusPolicy(Qt::NoFocus);
-    }
-    m_rulerCaption = new QLabel(surface);
-    m_rulerCaption->setObjectName(QStringLiteral("Label1"));
-    m_rulerCaption->move(rulerLeft, 8);
-    m_distance = new QLabel(QStringLiteral("0 yds."), surface);
-    m_distance->setObjectName(QStringLiteral("lblDistance"));
-    m_distance->setGeometry(rulerLeft + 8, 26, 88, 18);
-    m_distance->setAutoFillBackground(true);
-    m_distance->setBackgroundRole(QPalette::Midlight);
-    m_distance->setAlignment(Qt::AlignCenter);
-    makeDebugReadOuts(surface);
-    m_progress.emplace(surface);
-}
-
-// Read-outs for development; shown by the debug mode alone.
-void MainFrm::makeDebugReadOuts(QWidget* surface)
-{
-    int left = 440;
-    for (const char* name : {"PicCoords", "Picture3", "Picture5"}) {
-        auto* readOut = new PictureBox(surface);
-        readOut->setObjectName(QLatin1StringView(name));
-        readOut->setGeometry(left, 4, 64, 16);
-        readOut->hide();
-        m_debugReadOuts.push_back(readOut);
-        left += 66;
-    }
-}
-
-void MainFrm::makeHelpTags()
-{
-    QWidget* surface = findChild<QWidget*>(QStringLiteral("surface"));
-    for (std::size_t i = 0; i < helpTags.size(); ++i) {
-        auto* tag = new QLabel(surface);
-        tag->setObjectName(QLatin1StringView(helpTags[i].name));
-        QPalette colors = tag->palette();
-        colors.setColor(QPalette::Window, helpTagColor);
-        colors.setColor(QPalette::WindowText, Qt::black);
-        tag->setPalette(colors);
-        tag->setAutoFillBackground(true);
-        tag->hide();
-        m_helpTags[i] = tag;
-    }
+    m_surface = new MapSurface(this);
+    layout->addWidget(m_surface);
+    m_map.emplace(m_editor, *m_surface);
+    m_progress.emplace(m_surface);
 }
 
 void MainFrm::connectCommands()
@@ -155,6 +90,36 @@ void MainFrm::connectCommands()
     });
 }
 
+void MainFrm::connectMap()
+{
+    on(&m_surface->map(), &MapBox::typed, [this](const QString& character) { m_map->keyTyped(character); });
+    on(&m_surface->map(), &MapBox::pressed,
+       [this](Qt::MouseButton button, QPointF position) { m_map->mousePressed(button, position); });
+    on(&m_surface->map(), &MapBox::moved, [this](QPointF position) { m_map->mouseMoved(position); });
+    on(&m_surface->tools(), &ToolRow::clicked, [this](Tool tool) { m_map->useTool(tool); });
+    on(&m_surface->horizontal(), &MapScrollBar::stepped,
+       [this](int value, ScrollEvent event) { m_map->scrolledHorizontally(value, event, mapWindowState()); });
+    on(&m_surface->vertical(), &MapScrollBar::stepped,
+       [this](int value, ScrollEvent event) { m_map->scrolledVertically(value, event, mapWindowState()); });
+    on(m_menu->action(QStringLiteral("mnuTargetBox")), &QAction::triggered,
+       [this] { m_map->armTargetArea(); });
+    on(m_surface->targetTool(), &QAbstractButton::clicked, [this] { m_map->armTargetArea(); });
+    for (const bool blue : {true, false}) {
+        for (int division = 1; division <= divisionsPerSide; ++division) {
+            const RepositionRow& row = repositionRow(blue, division);
+            on(m_menu->action(QLatin1StringView(row.entry)), &QAction::triggered,
+               [this, key = QString::fromLatin1(row.repositionKey)] { askForPosition(key); });
+        }
+    }
+}
+
+void MainFrm::askForPosition(const QString& repositionKey)
+{
+    m_map->setRepositionKey(repositionKey);
+    setValue(m_editor.createDivisionFrm().chkReposition, 1);
+    setValue(ChkPlotDiv, 1);
+}
+
 void MainFrm::onLoad()
 {
     setValue(chkGermanVersion, m_editor.german() ? 1 : 0);
@@ -171,6 +136,7 @@ void MainFrm::onLoad()
     }
     m_editor.scratchFiles().removeLeftovers();
     killFiles();
+    m_started = true;
 }
 
 QString MainFrm::findBasePath()
@@ -188,9 +154,7 @@ QString MainFrm::findBasePath()
 
 void MainFrm::showDebugReadOuts()
 {
-    for (PictureBox* readOut : m_debugReadOuts) {
-        readOut->show();
-    }
+    m_surface->showDevelopmentReadOuts();
     m_editor.services().messageBoxes.show(
         {.text = QStringLiteral("DeBug Mode is On!"), .title = QStringLiteral("DEBUG")});
 }
@@ -200,18 +164,11 @@ void MainFrm::applyCaptions(Language language)
     setWindowTitle(mainText(MainText::Title, language));
     m_menu->setCaptions(language);
     const QString ruler = mainText(MainText::RulerCaption, language);
-    m_rulerCaption->setText(ruler);
-    m_rulerCaption->adjustSize();
-    if (language == Language::German) {
-        const int width = qRound(captionPixels * static_cast<double>(ruler.size()));
-        m_rulerCaption->resize(std::max(width, m_rulerCaption->width()), m_rulerCaption->height());
-    }
+    const int rulerWidth =
+        language == Language::German ? qRound(captionPixels * static_cast<double>(ruler.size())) : 0;
+    m_surface->setRulerCaption(ruler, rulerWidth);
     fitMenuBar();
-    for (std::size_t i = 0; i < helpTags.size(); ++i) {
-        const HelpTagText& text = helpTags[i].in(language);
-        m_helpTags[i]->setText(text.string());
-        m_helpTags[i]->resize(std::max(text.width(), m_helpTags[i]->sizeHint().width()), helpTagHeight);
-    }
+    m_surface->tools().setCaptions(language);
 }
 
 // The German menus are long: the bar's text gives way until they stand in the window's width, and what is
@@ -224,45 +181,31 @@ void MainFrm::fitMenuBar()
         return bar->sizeHint().width();
     };
     QFont font = bar->font();
-    while (width() > mapWidth + scrollBarSize && font.pointSizeF() > smallestMenuFont) {
+    while (width() > m_surface->minimumWidth() && font.pointSizeF() > smallestMenuFont) {
         font.setPointSizeF(font.pointSizeF() - 0.25);
         bar->setFont(font);
     }
-    setMinimumWidth(std::max(mapWidth + scrollBarSize, width()));
+    setMinimumWidth(std::max(m_surface->minimumWidth(), width()));
 }
 
 void MainFrm::onActivate()
 {
-    centreScrollBars();
-    m_viewCentre = QPoint(m_pictureMain->width() / 2, m_pictureMain->height() / 2);
-    m_pictureMain->setBackColor(valueOf(chkDayNight) == 1 ? daySea : nightSea);
-    m_targetAreaInUse = valueOf(chkBombardment) == 1;
-    m_menu->setEnabled(QStringLiteral("mnuTargetBox"), m_targetAreaInUse);
+    m_map->centre();
+    m_map->setBackColor();
+    m_map->setTargetAreaInUse(valueOf(chkBombardment) == 1);
+    m_menu->setEnabled(QStringLiteral("mnuTargetBox"), valueOf(chkBombardment) == 1);
+    m_map->drawScaleBars();
+    m_map->anchorAtOrigin();
     if (valueOf(chkCreateReturn) == 1) {
-        askForPosition();
+        setValue(chkCreateReturn, 0);
+        m_map->awaitSeparationRings();
+        askForPosition(
+            repositionKeyFor(m_editor.createDivisionFrm().lblside->text(), txtDivisionReturn->text()));
     }
     if (valueOf(chkReturnFromEdit) == 1) {
         takeReturnedPosition();
     }
     redrawMap();
-}
-
-void MainFrm::centreScrollBars()
-{
-    m_hScroll->setValue(m_hScroll->maximum() / 2);
-    m_vScroll->setValue(m_vScroll->maximum() / 2);
-    m_lastHScrollValue = m_hScroll->value();
-    m_lastVScrollValue = m_vScroll->value();
-}
-
-void MainFrm::askForPosition()
-{
-    setValue(chkCreateReturn, 0);
-    m_separationRingsPending = true;
-    CreateDivisionFrm& dialog = m_editor.createDivisionFrm();
-    m_repositionKey = repositionKeyFor(dialog.lblside->text(), txtDivisionReturn->text());
-    setValue(dialog.chkReposition, 1);
-    setValue(ChkPlotDiv, 1);
 }
 
 // An edited division is laid out again at its old place: no click is awaited.
@@ -271,39 +214,24 @@ void MainFrm::takeReturnedPosition()
     setValue(m_editor.createDivisionFrm().chkReposition, 0);
     setValue(ChkPlotDiv, 0);
     setValue(chkReturnFromEdit, 0);
-    m_cursorYardsX = static_cast<float>(numberValue(txtXPosition->text()));
-    m_cursorYardsY = static_cast<float>(numberValue(txtYPosition->text()));
-}
-
-void MainFrm::redrawMap()
-{
-    m_menu->hideEditShipMenus();
-    m_pictureMain->clear();
-    if (!m_targetAreaInUse) {
-        placeTargetArea(0, 0);
-    }
-}
-
-void MainFrm::placeTargetArea(int x, int z)
-{
-    m_target.x = x;
-    m_target.z = z;
+    m_map->placeAt(txtXPosition->text(), txtYPosition->text());
 }
 
 void MainFrm::saveINIfile(const QString& path)
 {
-    torvane::saveINIfile(path, m_editor.workingProfile(), m_target, m_editor.overviewFrm().lblForceA->text(),
-                         [this] { m_progress->advanceProgress(); });
+    torvane::saveINIfile(path, m_editor.workingProfile(), targetArea(),
+                         m_editor.overviewFrm().lblForceA->text(), [this] { m_progress->advanceProgress(); });
 }
 
 void MainFrm::showProgress(const QString& text)
 {
-    m_progress->show(text, m_pictureMain->geometry());
+    m_progress->show(text, m_surface->map().geometry());
 }
 
 void MainFrm::toggleHelpTags()
 {
     m_helpTagsOn = !m_helpTagsOn;
+    m_surface->tools().setTagsOn(m_helpTagsOn);
     QAction* entry = m_menu->action(QStringLiteral("mnuHotText"));
     entry->setChecked(m_helpTagsOn);
     entry->setText(
@@ -387,15 +315,34 @@ void MainFrm::keyPressEvent(QKeyEvent* event)
     }
 }
 
+WindowState MainFrm::mapWindowState() const
+{
+    if (isMinimized()) {
+        return WindowState::Minimised;
+    }
+    return isMaximized() || isFullScreen() ? WindowState::Maximised : WindowState::Normal;
+}
+
+void MainFrm::windowResized()
+{
+    if (m_started) {
+        runHandler([this] { m_map->resized(mapWindowState(), frameGeometry().size(), m_surface->size()); });
+    }
+}
+
 void MainFrm::resizeEvent(QResizeEvent* event)
 {
-    Form::resizeEvent(event);
-    const QWidget* surface = m_pictureMain->parentWidget();
-    const int width = isMaximized() ? surface->width() - scrollBarSize : mapWidth;
-    const int height = isMaximized() ? surface->height() - mapTop - scrollBarSize : mapHeight;
-    m_pictureMain->setGeometry(0, mapTop, width, height);
-    m_hScroll->setGeometry(0, mapTop + height, width, scrollBarSize);
-    m_vScroll->setGeometry(width, mapTop, scrollBarSize, height);
+    EditorForm::resizeEvent(event);
+    windowResized();
+}
+
+// The window system may tell the new state after the new size.
+void MainFrm::changeEvent(QEvent* event)
+{
+    EditorForm::changeEvent(event);
+    if (event->type() == QEvent::WindowStateChange) {
+        windowResized();
+    }
 }
 
 } // namespace torvane

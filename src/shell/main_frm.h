@@ -1,21 +1,18 @@
 #pragma once
 
+#include "map/map_view.h"
+#include "map/tactical_map.h"
 #include "shell/editor_form.h"
 #include "shell/progress_panel.h"
-#include "store/target_area.h"
 
 #include <QString>
 
-#include <array>
 #include <optional>
-#include <vector>
-
-class QScrollBar;
 
 namespace torvane {
 
 class MainMenu;
-class PictureBox;
+class MapSurface;
 
 /// The main window: owner of the run. Every other window is opened from it and comes back to it, and the
 /// hidden controls on it are the shared state through which the windows talk to each other.
@@ -54,8 +51,11 @@ public:
     /// Opens a file of the platform, such as the game's program, in a folder.
     bool Execute_Program(const QString& file, const QString& parameters, const QString& directory);
 
-    /// Repaints the map. Without a mission that has a target area, the area goes back to 0.
-    void redrawMap();
+    /// Repaints the map and rebuilds the Edit Ship menu.
+    void redrawMap() { m_map->redrawMap(); }
+    /// Takes the map's scale from the table.
+    void readMapScale() { m_map->readMapScale(); }
+    TacticalMap& map() { return *m_map; }
 
     /// Writes the scenario file. Throws RuntimeError and leaves a file of that name as it was.
     void saveINIfile(const QString& path);
@@ -63,15 +63,10 @@ public:
     void showProgress(const QString& text);
     ProgressPanel& progress() { return *m_progress; }
 
-    /// The text that names the division whose place is asked for.
-    const QString& repositionKey() const { return m_repositionKey; }
-    bool separationRingsPending() const { return m_separationRingsPending; }
-    bool targetAreaInUse() const { return m_targetAreaInUse; }
     bool helpTagsOn() const { return m_helpTagsOn; }
-    const TargetArea& targetArea() const { return m_target; }
-    int targetDim() const { return m_target.dim; }
+    const TargetArea& targetArea() const { return m_map->state().target.area; }
     /// Where the map has the target area's centre, in yards.
-    void placeTargetArea(int x, int z);
+    void placeTargetArea(int x, int z) { m_map->placeTargetArea(x, z); }
 
 protected:
     void onLoad() override;
@@ -80,18 +75,20 @@ protected:
     void applyCaptions(Language language) override;
     void keyPressEvent(QKeyEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
 private:
     void makeSurface();
-    void makeDebugReadOuts(QWidget* surface);
-    void makeHelpTags();
     void connectCommands();
+    void connectMap();
     void fitMenuBar();
     QString findBasePath();
     void showDebugReadOuts();
 
-    void centreScrollBars();
-    void askForPosition();
+    WindowState mapWindowState() const;
+    void windowResized();
+    /// The next click on the map places a division.
+    void askForPosition(const QString& repositionKey);
     void takeReturnedPosition();
 
     void toggleHelpTags();
@@ -100,25 +97,11 @@ private:
     void unload();
 
     MainMenu* m_menu = nullptr;
-    PictureBox* m_pictureMain = nullptr;
-    QScrollBar* m_hScroll = nullptr;
-    QScrollBar* m_vScroll = nullptr;
-    QLabel* m_rulerCaption = nullptr;
-    QLabel* m_distance = nullptr;
-    std::array<QLabel*, 9> m_helpTags{};
-    std::vector<PictureBox*> m_debugReadOuts;
+    MapSurface* m_surface = nullptr;
+    std::optional<TacticalMap> m_map;
     std::optional<ProgressPanel> m_progress;
-
-    QString m_repositionKey;
-    bool m_separationRingsPending = false;
-    bool m_targetAreaInUse = false;
     bool m_helpTagsOn = true;
-    TargetArea m_target;
-    int m_lastHScrollValue = 0;
-    int m_lastVScrollValue = 0;
-    QPoint m_viewCentre;
-    float m_cursorYardsX = 0;
-    float m_cursorYardsY = 0;
+    bool m_started = false; ///< the store is there
 };
 
 } // namespace torvane

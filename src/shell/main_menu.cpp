@@ -67,6 +67,11 @@ void MainMenu::setCaptions(Language language)
     }
 }
 
+static QString shipForceName(bool forceA)
+{
+    return forceA ? QStringLiteral("mnuEditShipForceA") : QStringLiteral("mnuEditShipForceB");
+}
+
 QAction* MainMenu::action(const QString& name) const
 {
     QAction* found = m_actions.value(name);
@@ -134,13 +139,39 @@ void MainMenu::enableForceMenus(int blueDivisions, int redDivisions)
 
 void MainMenu::hideEditShipMenus()
 {
+    showEditShips({});
+}
+
+void MainMenu::showEditShips(const std::vector<EditShipEntry>& ships)
+{
+    QHash<QString, QString> captions; // of what is shown; the menus of divisions have their own
+    for (const EditShipEntry& ship : ships) {
+        const bool forceA = ship.side == Side::Blue;
+        captions.insert(shipForceName(forceA), QString());
+        if (ship.division == 0) {
+            continue;
+        }
+        captions.insert(shipDivisionName(forceA, ship.division), QString());
+        if (ship.ship <= shipEntries(ship.division)) {
+            captions.insert(shipEntryName(forceA, ship.division, ship.ship), ship.caption);
+        }
+    }
+    // What stays shown is not hidden in between, so that an open menu doesn't flicker.
     for (const bool forceA : sides) {
-        setEnabled(forceA ? QStringLiteral("mnuEditShipForceA") : QStringLiteral("mnuEditShipForceB"), false);
+        setEnabled(shipForceName(forceA), captions.contains(shipForceName(forceA)));
         for (int division = 1; division <= hiddenDivisions; ++division) {
-            setVisible(shipDivisionName(forceA, division), false);
+            const QString menu = shipDivisionName(forceA, division);
+            setVisible(menu, captions.contains(menu));
             for (int ship = 2; ship <= shipEntries(division); ++ship) {
-                setVisible(shipEntryName(forceA, division, ship), false);
+                const QString entry = shipEntryName(forceA, division, ship);
+                setVisible(entry, captions.contains(entry));
             }
+        }
+    }
+    for (auto shown = captions.cbegin(); shown != captions.cend(); ++shown) {
+        setVisible(shown.key(), true);
+        if (!shown.value().isEmpty()) {
+            action(shown.key())->setText(shown.value());
         }
     }
 }

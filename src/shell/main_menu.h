@@ -1,10 +1,13 @@
 #pragma once
 
+#include "map/map_plotting.h"
 #include "platform/language.h"
 
 #include <QHash>
 #include <QObject>
 #include <QString>
+
+#include <vector>
 
 class QAction;
 class QMenuBar;
@@ -42,6 +45,9 @@ public:
     /// Before each plot: greys the Edit Ship menus and hides their entries of divisions 1 to 4, but for the
     /// first ships. Divisions 5 and 6 stay as they are.
     void hideEditShipMenus();
+    /// The same, and then the plotted ships: their force greyed no longer, their division and their own entry
+    /// shown. A division without a number, and a ship without an entry, show none.
+    void showEditShips(const std::vector<EditShipEntry>& ships);
 
     /// Divisions counted in since the last reset.
     int blueDivisionCount() const { return m_blueDivisionCount; }

@@ -10,6 +10,9 @@
 
 namespace torvane {
 
+/// The one short name that two ships of the catalogue share; their classes tell them apart.
+inline constexpr QLatin1StringView ambiguousShortName{"Duncan"};
+
 /// The ships and classes that a scenario may use: the four controls of `ShipDatabase.mdb`. Each is opened at
 /// its first use, which throws RuntimeError, naming the file, if it can't; the next use tries again. Each has
 /// one current row: a look-up for another purpose moves it under whoever still reads it.

@@ -29,7 +29,7 @@ TEST(DivisionTexts, TheCaptionsAreTheTable)
         {"optEncumNO", "No", "Nein"},
         {"CmdEditShip", "&Edit Ships", "&Edit Ships"},
         {"CmdNewDivision", "Add &Division", "Add &Division"},
-        {"lblPosition", "Position:", "Position:"},
+        {"lblPosition", "Last position:", "Letzte Position:"},
     };
     ASSERT_EQ(divisionCaptions.size(), std::size(cells));
     for (const auto& cell : cells) {

@@ -240,7 +240,15 @@ TEST_F(DivisionFailures, DivDataOfOtherTextIsShownAsItStandsAndItsHeadingRefused
     putWorkFile(QStringLiteral("DivDataA1.txt"),
                 "a, \"b\"\r\nGreen\r\nWedge\r\n500\r\nmany\r\nslow\r\nmore\r\n");
     boxes().clear();
+    bool covered = false;
+    script.messageBoxes.onShow = [&] {
+        const auto* mask = control<QWidget>(dialog(), QStringLiteral("PicMask"));
+        covered = mask->isVisible() && mask->geometry() == dialog().rect();
+    };
     edit(Side::Blue, 1);
+    script.messageBoxes.onShow = nullptr;
+    EXPECT_TRUE(covered) << "while it is loaded";
+    EXPECT_FALSE(control<QWidget>(dialog(), QStringLiteral("PicMask"))->isVisible());
     expectOneBox("You must enter a heading between 0 and 360 degrees.", "Out of Range");
     EXPECT_EQ(field("TxtHeading")->text(), QStringLiteral("0"));
     EXPECT_EQ(choices("CmbFormation")->shownText(), QStringLiteral("Wedge"));
@@ -308,6 +316,9 @@ TEST_F(DivisionFailures, APositionBeyondItsBitsIsAnOverflowAndTheEditCanBeLeft)
     edit(Side::Blue, 1);
     expectOneError("99999999999");
     expectEnabled(false, {"cmdOK"});
+    // The map has its own say on it as soon as the dialog is left.
+    put("DIVISION0SHIP0", "XPOSITION", QStringLiteral("0"));
+    m_before = profile();
     expectWholeAndLeavable();
 }
 

@@ -143,6 +143,8 @@ TEST_F(DivisionLeaving, ASavedEditIsLaidOutAtItsOldPlaceWithoutAClick)
     put("DIVISION0SHIP0", "ZPOSITION", QStringLiteral("-2000"));
     put("DIVISION0SHIP1", "CURRENTHITPOINTS", QStringLiteral("7"));
     watchFlags();
+    main().menu().setEnabled(QStringLiteral("mnuCreateForceB"), false);
+    main().menu().setEnabled(QStringLiteral("mnuRepoForceA"), false);
     edit(Side::Blue, 1);
     click(push("cmdDivDataChng"));
     retype(field("TxtHeading"), QStringLiteral("90"));
@@ -156,6 +158,9 @@ TEST_F(DivisionLeaving, ASavedEditIsLaidOutAtItsOldPlaceWithoutAClick)
     EXPECT_EQ(main().txtYPosition->text(), QStringLiteral("-2000"));
     EXPECT_EQ(valueOf(dialog().chkReposition), 0);
     EXPECT_EQ(valueOf(main().ChkPlotDiv), 0);
+    EXPECT_FALSE(isEnabledEntry("mnuCreateForceB")) << "an edit enables no menu";
+    EXPECT_FALSE(isEnabledEntry("mnuRepoForceA"));
+    EXPECT_TRUE(isVisible("mnuForceA1"));
     EXPECT_EQ(key("DIVISION0", "FORMATIONHEADING"), QStringLiteral("90"));
     EXPECT_EQ(key("DIVISION0", "SHIPCNT"), QStringLiteral("2"));
     EXPECT_EQ(key("DIVISION0SHIP0", "NAME"), QStringLiteral("Maori"));
@@ -241,8 +246,7 @@ TEST_F(DivisionLeaving, TheCloseBoxDoesNothingBeforeTheDialogHasReadItsStateAndW
 {
     openScenario();
     make(Side::Blue, {"DD Zulu"});
-    setValue(dialog().chkCreate, 1);
-    dialog().showForm(&main());
+    main().menu().action(QStringLiteral("mnuCreateForceA"))->trigger();
     dialog().close();
     EXPECT_TRUE(dialog().isVisible());
     settle();

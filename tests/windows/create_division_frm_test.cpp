@@ -372,6 +372,18 @@ TEST_F(DivisionWindow, HasTwoButtonsThatDoNothing)
     EXPECT_TRUE(boxes().isEmpty());
 }
 
+TEST_F(DivisionWindow, ShowsTheLastPlacementUntilThereIsAnother)
+{
+    openScenario();
+    dialog().showPlacement(QStringLiteral("24720 X 6480"));
+    create(Side::Blue);
+    EXPECT_EQ(caption("LblPicMap"), QStringLiteral("24720 X 6480"));
+    keepShips(destroyers());
+    save();
+    edit(Side::Blue, 1);
+    EXPECT_EQ(caption("LblPicMap"), QStringLiteral("0 X 0"));
+}
+
 TEST_F(DivisionWindow, SaysHowManyShipsItHas)
 {
     openScenario();

@@ -59,8 +59,8 @@ TEST_F(MainWindow, SetsItsSharedStateAtStart)
     EXPECT_EQ(main().txtCurDir->text(), gameFolder());
     EXPECT_EQ(valueOf(main().chkDayNight), 1);
     EXPECT_TRUE(main().helpTagsOn());
-    EXPECT_EQ(main().targetDim(), 9260);
-    EXPECT_FALSE(main().separationRingsPending());
+    EXPECT_EQ(main().targetArea().dim, 9260);
+    EXPECT_FALSE(main().map().state().separationRingsPending);
     EXPECT_EQ(main().menu().blueDivisionCount(), 0);
     EXPECT_EQ(main().menu().redDivisionCount(), 0);
     for (const QCheckBox* box : {main().chkCreateReturn, main().chkReturnFromEdit, main().ChkPlotDiv,
@@ -233,11 +233,11 @@ TEST_F(MainWindow, ActivationOffersTheTargetAreaWhereTheMissionHasOne)
     setValue(main().chkBombardment, 1);
     returnFromDialog();
     EXPECT_TRUE(entry("mnuTargetBox")->isEnabled());
-    EXPECT_TRUE(main().targetAreaInUse());
+    EXPECT_TRUE(main().map().state().target.inUse);
     setValue(main().chkBombardment, 0);
     returnFromDialog();
     EXPECT_FALSE(entry("mnuTargetBox")->isEnabled());
-    EXPECT_FALSE(main().targetAreaInUse());
+    EXPECT_FALSE(main().map().state().target.inUse);
 }
 
 TEST_F(MainWindow, ADivisionJustMadeAwaitsAClick)
@@ -248,8 +248,8 @@ TEST_F(MainWindow, ADivisionJustMadeAwaitsAClick)
     setValue(main().chkCreateReturn, 1);
     returnFromDialog();
     EXPECT_EQ(valueOf(main().chkCreateReturn), 0);
-    EXPECT_EQ(main().repositionKey(), QStringLiteral("Blue 3"));
-    EXPECT_TRUE(main().separationRingsPending());
+    EXPECT_EQ(main().map().repositionKey(), QStringLiteral("Blue 3"));
+    EXPECT_FALSE(main().map().state().separationRingsPending) << "drawn by the redraw";
     EXPECT_EQ(valueOf(main().ChkPlotDiv), 1);
     EXPECT_EQ(valueOf(editor().createDivisionFrm().chkReposition), 1);
 }
@@ -262,7 +262,7 @@ TEST_F(MainWindow, AfterAnEditLeftByOkNoClickIsAwaited)
     setValue(main().chkCreateReturn, 1);
     setValue(main().chkReturnFromEdit, 1);
     returnFromDialog();
-    EXPECT_EQ(main().repositionKey(), QStringLiteral("Red 2"));
+    EXPECT_EQ(main().map().repositionKey(), QStringLiteral("Red 2"));
     EXPECT_EQ(valueOf(main().ChkPlotDiv), 0);
     EXPECT_EQ(valueOf(editor().createDivisionFrm().chkReposition), 0);
     EXPECT_EQ(valueOf(main().chkReturnFromEdit), 0);
@@ -274,7 +274,7 @@ TEST_F(MainWindow, ADialogThatLeavesNoFlagLeavesThePlacementAsItIs)
     setValue(main().ChkPlotDiv, 1);
     returnFromDialog();
     EXPECT_EQ(valueOf(main().ChkPlotDiv), 1);
-    EXPECT_EQ(main().repositionKey(), QString());
+    EXPECT_EQ(main().map().repositionKey(), QString());
 }
 
 TEST_F(MainWindow, HelpTagsToggledTwiceAreOnAgain)

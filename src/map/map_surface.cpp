@@ -1,0 +1,300 @@
+#include "map/map_surface.h"
+
+#include "map/tool_row.h"
+
+#include <QCoreApplication>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QMouseEvent>
+#include <QPushButton>
+#include <QStyle>
+#include <QWheelEvent>
+
+namespace torvane {
+
+namespace {
+
+constexpr int scrollBarSize = 18;
+constexpr int mapFontPixels = 11;
+constexpr int rulerLeft = 320;
+// The read-outs: two rows of number, "X", number.
+constexpr QRect scalePanel(434, 4, 208, 40);
+constexpr QRect leftColumn(0, 2, 96, 17);
+constexpr QRect middleColumn(96, 2, 14, 17);
+constexpr QRect rightColumn(110, 2, 96, 17);
+constexpr int rowHeight = 18;
+
+QRect lowerRow(QRect place)
+{
+    return place.translated(0, rowHeight);
+}
+
+/// Writes a text into a read-out, in its middle row of pixels.
+void tell(PictureBox* readOut, const QString& text)
+{
+    readOut->clear();
+    readOut->setForeColor(readOut->palette().color(QPalette::WindowText));
+    readOut->setCurrent(QPoint(3, std::max(0, (readOut->height() - readOut->fontMetrics().height()) / 2)));
+    readOut->print(text);
+}
+
+} // namespace
+
+MapBox::MapBox(QWidget* parent) : PictureBox(parent)
+{
+    setObjectName(QStringLiteral("Picture_Main"));
+    setFocusPolicy(Qt::StrongFocus);
+    setMouseTracking(true);
+    QFont plain = font();
+    plain.setPixelSize(mapFontPixels);
+    plain.setHintingPreference(QFont::PreferFullHinting);
+    setFont(plain);
+}
+
+void MapBox::setBars(QScrollBar* horizontal, QScrollBar* vertical)
+{
+    m_horizontal = horizontal;
+    m_vertical = vertical;
+}
+
+void MapBox::keyPressEvent(QKeyEvent* event)
+{
+    switch (event->key()) {
+    case Qt::Key_Left:
+    case Qt::Key_Right:
+        QCoreApplication::sendEvent(m_horizontal, event);
+        return;
+    case Qt::Key_Up:
+    case Qt::Key_Down:
+    case Qt::Key_PageUp:
+    case Qt::Key_PageDown:
+        QCoreApplication::sendEvent(m_vertical, event);
+        return;
+    default:
+        break;
+    }
+    if (!event->text().isEmpty()) {
+        Q_EMIT typed(event->text());
+    }
+    // The window has keys of its own.
+    event->ignore();
+}
+
+void MapBox::mousePressEvent(QMouseEvent* event)
+{
+    Q_EMIT pressed(event->button(), event->position());
+}
+
+void MapBox::mouseMoveEvent(QMouseEvent* event)
+{
+    Q_EMIT moved(event->position());
+}
+
+void MapBox::wheelEvent(QWheelEvent* event)
+{
+    QScrollBar* bar = event->modifiers().testFlag(Qt::ShiftModifier) ? m_horizontal : m_vertical;
+    QWheelEvent forBar(event->position(), event->globalPosition(), event->pixelDelta(), event->angleDelta(),
+                       event->buttons(), Qt::NoModifier, event->phase(), event->inverted());
+    QCoreApplication::sendEvent(bar, &forBar);
+    event->accept();
+}
+
+void MapBox::paintEvent(QPaintEvent* event)
+{
+    PictureBox::paintEvent(event);
+    if (hasFocus()) {
+        QPainter painter(this);
+        QPen pen(palette().color(QPalette::Highlight));
+        pen.setWidth(1);
+        painter.setPen(pen);
+        painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    }
+}
+
+void MapBox::focusInEvent(QFocusEvent* /*event*/)
+{
+    update();
+}
+
+void MapBox::focusOutEvent(QFocusEvent* /*event*/)
+{
+    update();
+}
+
+MapScrollBar::MapScrollBar(Qt::Orientation orientation, int change, QWidget* parent)
+    : QScrollBar(orientation, parent)
+{
+    setRange(0, scrollMaximum);
+    setValue(scrollMiddle(scrollMaximum));
+    setSingleStep(change);
+    setPageStep(change);
+    setFocusPolicy(Qt::StrongFocus);
+    connect(this, &QScrollBar::sliderPressed, this, [this] { m_valueAtPress = value(); });
+    connect(this, &QScrollBar::valueChanged, this, [this](int value) {
+        Q_EMIT stepped(value, isSliderDown() ? ScrollEvent::Scroll : ScrollEvent::Change);
+    });
+    // A drag ends with a change of its own, unless it came back to where it began.
+    connect(this, &QScrollBar::sliderReleased, this, [this] {
+        if (value() != m_valueAtPress) {
+            Q_EMIT stepped(value(), ScrollEvent::Change);
+        }
+    });
+}
+
+// A bar of this platform takes the arrow to the right for a step back.
+void MapScrollBar::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Right) {
+        triggerAction(SliderSingleStepAdd);
+    } else if (event->key() == Qt::Key_Left) {
+        triggerAction(SliderSingleStepSub);
+    } else {
+        QScrollBar::keyPressEvent(event);
+    }
+}
+
+void MapScrollBar::centre()
+{
+    const QSignalBlocker quiet(this);
+    setValue(scrollMiddle(maximum()));
+}
+
+MapSurface::MapSurface(QWidget* parent)
+    : QWidget(parent),
+      m_map(new MapBox(this)),
+      m_horizontal(new MapScrollBar(Qt::Horizontal, hScrollChange, this)),
+      m_vertical(new MapScrollBar(Qt::Vertical, vScrollChange, this)),
+      m_rulerCaption(new QLabel(this)),
+      m_distance(new QLabel(QStringLiteral("0 yds."), this)),
+      m_scalePanel(new QWidget(this)),
+      m_targetTool(new QPushButton(this))
+{
+    setObjectName(QStringLiteral("surface"));
+    m_horizontal->setObjectName(QStringLiteral("HScroll1"));
+    m_vertical->setObjectName(QStringLiteral("VScroll1"));
+    m_map->setBars(m_horizontal, m_vertical);
+    m_rulerCaption->setObjectName(QStringLiteral("Label1"));
+    m_rulerCaption->move(rulerLeft, 8);
+    m_distance->setObjectName(QStringLiteral("lblDistance"));
+    m_distance->setGeometry(rulerLeft + 8, 24, 88, 18);
+    m_distance->setAutoFillBackground(true);
+    m_distance->setBackgroundRole(QPalette::Midlight);
+    m_distance->setAlignment(Qt::AlignCenter);
+    m_scalePanel->setObjectName(QStringLiteral("picScaleYards"));
+    m_scalePanel->setGeometry(scalePanel);
+    m_targetTool->setObjectName(QStringLiteral("cmdTarget"));
+    m_targetTool->hide();
+    makeReadOuts();
+    makeTools();
+    const MapLayout normal = *mapLayout(WindowState::Normal, {}, {});
+    setMinimumSize(normal.vScrollLeft + scrollBarSize, normal.hScrollTop + scrollBarSize);
+    arrange(normal);
+}
+
+PictureBox* MapSurface::readOut(const char* designName, QWidget* parent, QRect place)
+{
+    auto* box = new PictureBox(parent);
+    box->setObjectName(QLatin1StringView(designName));
+    QFont plain = box->font();
+    plain.setPixelSize(mapFontPixels);
+    box->setFont(plain);
+    box->setGeometry(place);
+    return box;
+}
+
+void MapSurface::makeReadOuts()
+{
+    m_width = readOut("Picture2", m_scalePanel, leftColumn);
+    m_extentBy = readOut("Picture4", m_scalePanel, middleColumn);
+    m_height = readOut("Picture1", m_scalePanel, rightColumn);
+    m_cursorX = readOut("picMapScale1", m_scalePanel, lowerRow(leftColumn));
+    m_cursorBy = readOut("picMapScaleX", m_scalePanel, lowerRow(middleColumn));
+    m_cursorY = readOut("picMapScale2", m_scalePanel, lowerRow(rightColumn));
+    // For development: hidden but for the debug mode, the scroll values hidden always.
+    m_anchor = readOut("PicCoords", this, {424, 4, 72, 16});
+    m_heightMetres = readOut("Picture3", this, {498, 4, 72, 16});
+    m_widthMetres = readOut("Picture5", this, {572, 4, 70, 16});
+    m_scrollX = readOut("PicXcoord", this, {424, 4, 60, 16});
+    m_scrollY = readOut("PicYCoord", this, {486, 4, 60, 16});
+    for (PictureBox* box : {m_anchor, m_heightMetres, m_widthMetres, m_scrollX, m_scrollY}) {
+        box->hide();
+    }
+}
+
+void MapSurface::makeTools()
+{
+    m_tools = new ToolRow(this);
+    m_tools->watch(m_map, ToolRow::Place::Map);
+    m_tools->watch(m_rulerCaption, ToolRow::Place::Ruler);
+    m_tools->watch(m_distance, ToolRow::Place::Ruler);
+    m_tools->watch(m_scalePanel, ToolRow::Place::ScalePanel);
+    m_tools->leadTabThrough(m_map);
+}
+
+void MapSurface::arrange(const MapLayout& layout)
+{
+    m_map->setGeometry(MapLayout::mapLeft, MapLayout::mapTop, layout.mapWidth, layout.mapHeight);
+    m_horizontal->setGeometry(0, layout.hScrollTop, layout.hScrollWidth, scrollBarSize);
+    m_vertical->setGeometry(layout.vScrollLeft, MapLayout::mapTop, scrollBarSize, layout.vScrollHeight);
+    m_tools->placeCorner({layout.vScrollLeft, layout.hScrollTop}, scrollBarSize,
+                         {layout.hotCenterMapLeft, layout.hotCenterMapTop});
+}
+
+void MapSurface::centreBars()
+{
+    m_horizontal->centre();
+    m_vertical->centre();
+}
+
+void MapSurface::setRulerCaption(const QString& caption, int leastWidth)
+{
+    m_rulerCaption->setText(caption);
+    m_rulerCaption->adjustSize();
+    m_rulerCaption->resize(std::max(leastWidth, m_rulerCaption->width()), m_rulerCaption->height());
+    m_distance->setAccessibleName(caption);
+}
+
+void MapSurface::showDistance(const QString& text)
+{
+    m_distance->setText(text);
+}
+
+void MapSurface::showExtent(const ReadOut& yards, const ReadOut& metres)
+{
+    tell(m_extentBy, QStringLiteral("X"));
+    tell(m_width, yards.x);
+    tell(m_height, yards.y);
+    tell(m_heightMetres, metres.y);
+    tell(m_widthMetres, metres.x);
+}
+
+void MapSurface::showCursor(const ReadOut& yards)
+{
+    tell(m_cursorBy, QStringLiteral("X"));
+    tell(m_cursorX, yards.x);
+    tell(m_cursorY, yards.y);
+}
+
+void MapSurface::showAnchor(const QString& text)
+{
+    m_anchor->clear();
+    m_anchor->setForeColor(palette().color(QPalette::HighlightedText));
+    m_anchor->print(text);
+    m_anchor->setForeColor(palette().color(QPalette::WindowText));
+}
+
+void MapSurface::showScrollValues(int horizontal, int vertical)
+{
+    tell(m_scrollX, QString::number(horizontal));
+    tell(m_scrollY, QString::number(vertical));
+}
+
+void MapSurface::showDevelopmentReadOuts()
+{
+    for (PictureBox* box : {m_anchor, m_heightMetres, m_widthMetres}) {
+        box->raise();
+        box->show();
+    }
+}
+
+} // namespace torvane
