@@ -132,6 +132,12 @@ QStringList DivisionRecords::listOf(Side side, int number) const
     return isThere(path) ? m_files.read(path) : QStringList();
 }
 
+QStringList DivisionRecords::listBeforeEdit() const
+{
+    const QString path = m_files.exisitTemp();
+    return isThere(path) ? m_files.read(path) : QStringList();
+}
+
 int DivisionRecords::countDivisionShips(Side side, int number) const
 {
     return static_cast<int>(listOf(side, number).size());
@@ -151,6 +157,43 @@ void DivisionRecords::writeKeys(const QString& section, const DivisionVars& vars
         m_profile.write(section, u"FLAGSHIPINDEX ", QString::number(*fields.flagshipRow));
     }
     m_profile.write(section, u"ENCUMBERED", fields.encumbered ? u"1" : u"0");
+}
+
+QStringList DivisionRecords::sectionsOf(const DivisionVars& vars) const
+{
+    QStringList sections;
+    for (int n = 0; n < divisionSections; ++n) {
+        const QString section = divisionSection(n);
+        if (m_profile.GetIniKey(section, u"DIVISIONNAME") == vars.name &&
+            m_profile.GetIniKey(section, u"SIDE") == vars.side) {
+            sections.append(section);
+        }
+    }
+    return sections;
+}
+
+void DivisionRecords::requireSavable(const DivisionFields& fields, bool created) const
+{
+    const DivisionVars vars = readDialogFields(fields);
+    const QStringList kept = created ? QStringList() : listBeforeEdit();
+    for (const QString& line : listOf(sideOfWord(vars.side), toInt16(numberValue(vars.number)))) {
+        if (!kept.contains(line)) {
+            m_ships.requireRecord(nameOf(line));
+        }
+    }
+    for (const QString& section : created ? QStringList() : sectionsOf(vars)) {
+        toInt16(numberValue(m_profile.GetIniKey(section, u"SHIPCNT")));
+    }
+}
+
+bool DivisionRecords::writeFlagship(const DivisionVars& vars, int row)
+{
+    const QStringList sections = sectionsOf(vars);
+    for (const QString& section : sections) {
+        // With the blank that stands for a number's sign.
+        m_profile.write(section, u"FLAGSHIPINDEX", QLatin1Char(' ') + QString::number(row));
+    }
+    return !sections.isEmpty();
 }
 
 void DivisionRecords::saveToINI(const DivisionFields& fields, bool created)
@@ -192,8 +235,7 @@ void DivisionRecords::moveShips(int division, const DivisionVars& vars, int oldC
 {
     const Side side = sideOfWord(vars.side);
     const QStringList lines = listOf(side, toInt16(numberValue(vars.number)));
-    const QStringList before =
-        isThere(m_files.exisitTemp()) ? m_files.read(m_files.exisitTemp()) : QStringList();
+    const QStringList before = listBeforeEdit();
     int place = 0;
     for (const QString& line : lines) {
         const QString target = shipSection(division, place);
@@ -215,15 +257,11 @@ void DivisionRecords::moveShips(int division, const DivisionVars& vars, int oldC
 
 void DivisionRecords::loadDivisionKeys(const QString& name, DivisionVars& vars) const
 {
-    for (int n = 0; n < divisionSections; ++n) {
-        const QString section = divisionSection(n);
-        if (m_profile.GetIniKey(section, u"DIVISIONNAME") == name &&
-            m_profile.GetIniKey(section, u"SIDE") == vars.side) {
-            vars.formation = m_profile.GetIniKey(section, u"FORMATION");
-            vars.heading = m_profile.GetIniKey(section, u"FORMATIONHEADING");
-            vars.spacing = m_profile.GetIniKey(section, u"FORMATIONSPACING");
-            vars.speed = m_profile.GetIniKey(section, u"SPEED");
-        }
+    for (const QString& section : sectionsOf({.name = name, .side = vars.side})) {
+        vars.formation = m_profile.GetIniKey(section, u"FORMATION");
+        vars.heading = m_profile.GetIniKey(section, u"FORMATIONHEADING");
+        vars.spacing = m_profile.GetIniKey(section, u"FORMATIONSPACING");
+        vars.speed = m_profile.GetIniKey(section, u"SPEED");
     }
 }
 

@@ -91,10 +91,17 @@ public:
     /// The real `DIVISIONCNT`; if there is no division, the fallback count of the main window.
     void writeDivisionCount(const QString& fallback);
 
+    /// Throws where saving the division could not be carried through, as for a ship that the catalogue lacks;
+    /// writes nothing. A ship that an edited division had before needs no catalogue.
+    void requireSavable(const DivisionFields& fields, bool created) const;
     /// Writes a new division and its ships. `created` is the dialog's create mode.
     void saveToINI(const DivisionFields& fields, bool created);
     /// Writes an edited division: its settings, and each ship's record at the ship's new place.
     void saveEditedDivision(const DivisionFields& fields);
+
+    /// Makes a place the flagship of an existing division at once. False if the profile has no division of
+    /// that name and side.
+    bool writeFlagship(const DivisionVars& vars, int row);
 
     /// The settings of a division from the profile; what it lacks stays as it is in `vars`.
     void loadDivisionKeys(const QString& name, DivisionVars& vars) const;
@@ -119,6 +126,8 @@ public:
 
 private:
     QStringList listOf(Side side, int number) const;
+    QStringList listBeforeEdit() const;
+    QStringList sectionsOf(const DivisionVars& vars) const;
     void writeKeys(const QString& section, const DivisionVars& vars, const DivisionFields& fields, int ships);
     void moveShips(int division, const DivisionVars& vars, int oldCount);
 

@@ -3,6 +3,7 @@
 #include "divisions/create_division_frm.h"
 #include "overview/dialog_texts.h"
 #include "overview/enviro_frm.h"
+#include "overview/force_colors.h"
 #include "overview/overview_rules.h"
 #include "overview/overview_tips.h"
 #include "platform/list_combo.h"
@@ -20,14 +21,6 @@
 #include <array>
 
 namespace torvane {
-
-namespace {
-
-// The forces' own colours, dark enough for white letters.
-const QColor forceABlue(36, 74, 150);
-const QColor forceBRed(164, 38, 38);
-
-} // namespace
 
 OverviewFrm::OverviewFrm(Editor& editor)
     : EditorForm(editor, QStringLiteral("OverviewFrm"), Qt::Dialog),
@@ -55,6 +48,11 @@ OverviewFrm::~OverviewFrm() = default;
 QString OverviewFrm::title() const
 {
     return m_ui->TxtTitle->text();
+}
+
+QString OverviewFrm::navy(Side side) const
+{
+    return (side == Side::Blue ? m_ui->CmbBlueSide : m_ui->CmbRedSide)->shownText();
 }
 
 void OverviewFrm::onLoad()

@@ -5,6 +5,7 @@
 #include "overview/scenario_data.h"
 #include "overview/typed_values.h"
 #include "shell/editor_form.h"
+#include "store/side.h"
 
 #include <memory>
 
@@ -37,6 +38,8 @@ public:
 
     /// The title as its text box shows it: the name of the scenario's file.
     QString title() const;
+    /// The navy of a force as its list shows it.
+    QString navy(Side side) const;
     /// Writes all 50 keys of the scenario section, from this dialog's controls and the environment dialog's.
     void WriteINI();
     /// Fills the controls of both dialogs from the working profile.

@@ -190,7 +190,10 @@ std::vector<MenuRow> makeRows()
     return rows;
 }
 
-constexpr std::array<EditDivisionRow, 12> editDivisions{{
+constexpr std::size_t createEntries = 2;
+constexpr std::array<DivisionCommandRow, 14> divisionCommands{{
+    {"mnuCreateForceA", nullptr, "Torvane - Create Division for Force A", true},
+    {"mnuCreateForceB", nullptr, "Torvane - Create Division for Force B", false},
     {"mnuForceA1", "chkDiv1", "Torvane - Edit Force A Division 1", true},
     {"mnuForceA2", "chkDiv2", "Torvane - Edit Force A Division 2", true},
     {"mnuForceA3", "chkDiv3", "Torvane - Edit Force A Division 3", true},
@@ -236,9 +239,14 @@ const std::vector<MenuRow>& menuRows()
     return rows;
 }
 
-std::span<const EditDivisionRow> editDivisionRows()
+std::span<const DivisionCommandRow> divisionCommandRows()
 {
-    return editDivisions;
+    return divisionCommands;
+}
+
+std::span<const DivisionCommandRow> editDivisionRows()
+{
+    return divisionCommandRows().subspan(createEntries);
 }
 
 const RepositionRow& repositionRow(bool forceA, int number)

@@ -29,15 +29,17 @@ struct MenuRow
 /// The whole tree, parents before their children, entries in the order in which they stand.
 const std::vector<MenuRow>& menuRows();
 
-/// What the Edit Division entries tell the division dialog.
-struct EditDivisionRow
+/// What the Create and Edit Division entries tell the division dialog. Its captions are not translated.
+struct DivisionCommandRow
 {
     const char* entry;  ///< design name of the menu entry
-    const char* marker; ///< check box of the division dialog that says which division is meant
+    const char* marker; ///< check box of the dialog that says which division is edited; null: one is created
     const char* dialogCaption;
     bool forceA;
 };
-std::span<const EditDivisionRow> editDivisionRows();
+/// The entries that create, then those that edit: Force A's divisions from 1 to 6, then Force B's.
+std::span<const DivisionCommandRow> divisionCommandRows();
+std::span<const DivisionCommandRow> editDivisionRows();
 
 /// Reposition entries of a side by division number from 1 (the entries' own numbers run in two pieces), and
 /// the key that each gives the placement.

@@ -9,6 +9,7 @@
 #include "shell/about_frm.h"
 #include "shell/captions.h"
 #include "shell/commands.h"
+#include "shell/division_commands.h"
 #include "shell/edit_ship_commands.h"
 #include "shell/editor.h"
 #include "shell/load_commands.h"
@@ -80,6 +81,9 @@ void MainFrm::connectCommands()
     command("mnuSave", [this] { saveScenario(m_editor); });
     command("mnuSaveAs", [this] { saveScenarioAs(m_editor); });
     command("mnuOverView", [this] { showOverview(); });
+    for (const DivisionCommandRow& row : divisionCommandRows()) {
+        command(row.entry, [this, &row] { openDivisionDialog(m_editor, row); });
+    }
     command("mnuExit", [this] { unload(); });
     command("mnuHotText", [this] { toggleHelpTags(); });
     command("mnuAbout", [this] { showAbout(); });

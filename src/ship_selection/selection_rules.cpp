@@ -1,5 +1,6 @@
 #include "ship_selection/selection_rules.h"
 
+#include "divisions/division_settings.h"
 #include "platform/number_text.h"
 #include "platform/runtime_error.h"
 #include "platform/text_files.h"
@@ -21,13 +22,6 @@ constexpr int lastRemovableIndex = 9;
 QString nameOf(const QString& entry)
 {
     return entry.mid(nameStart);
-}
-
-/// Whether a force carries the cargo of a transport scenario.
-bool isTransporting(const WorkingProfile& profile, Side side)
-{
-    return numberValue(profile.GetIniKey(u"SCENARIODATA", u"DDTRANSPORTS")) == 1 &&
-           profile.GetIniKey(u"SCENARIODATA", u"BLUE_FORCE_TYPE") == (side == Side::Blue ? u"0" : u"1");
 }
 
 } // namespace
@@ -92,7 +86,7 @@ void ShipSelection::close()
 
 bool ShipSelection::mayNotPick(const QString& type) const
 {
-    return type != QLatin1StringView("DD") && isTransporting(m_profile, m_side);
+    return type != QLatin1StringView("DD") && transportingForce(m_profile) == m_side;
 }
 
 std::optional<SelectionMessage> ShipSelection::pick(int row)

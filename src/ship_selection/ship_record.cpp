@@ -166,6 +166,14 @@ void ShipRecords::RemoveIndividualShip(const QString& section)
     }
 }
 
+void ShipRecords::requireRecord(const QString& name) const
+{
+    m_catalogue.shipToClass(name);
+    for (const ShipKey& key : recordKeys) {
+        creationValue(key, averageRadar, m_catalogue);
+    }
+}
+
 void ShipRecords::writeShipDataRecord(const QString& name)
 {
     const ProfileStore::Batch batch(m_store);

@@ -30,6 +30,9 @@ public:
     /// Makes an empty place: `NAME` "NO SHIP", the start position, all other keys empty.
     void RemoveIndividualShip(const QString& section);
 
+    /// Throws as writing the record of that ship would; writes nothing.
+    void requireRecord(const QString& name) const;
+
     /// Writes a picked ship to `iniShipData.bmm`, in a section that is the name in capitals.
     void writeShipDataRecord(const QString& name);
 

@@ -271,12 +271,27 @@ TEST(EditDivisionTable, NamesMarkerDialogCaptionAndSide)
     }};
     ASSERT_EQ(editDivisionRows().size(), expected.size());
     for (std::size_t i = 0; i < expected.size(); ++i) {
-        const EditDivisionRow& row = editDivisionRows()[i];
+        const DivisionCommandRow& row = editDivisionRows()[i];
         EXPECT_STREQ(row.entry, expected.at(i)[0]);
         EXPECT_STREQ(row.marker, expected.at(i)[1]);
         EXPECT_STREQ(row.dialogCaption, expected.at(i)[2]);
         EXPECT_EQ(row.forceA, *expected.at(i)[3] == 'A');
     }
+}
+
+TEST(DivisionCommands, CreateForEachForceBeforeTheyEdit)
+{
+    ASSERT_EQ(divisionCommandRows().size(), 14U);
+    EXPECT_STREQ(divisionCommandRows()[0].entry, "mnuCreateForceA");
+    EXPECT_STREQ(divisionCommandRows()[0].dialogCaption, "Torvane - Create Division for Force A");
+    EXPECT_TRUE(divisionCommandRows()[0].forceA);
+    EXPECT_STREQ(divisionCommandRows()[1].entry, "mnuCreateForceB");
+    EXPECT_STREQ(divisionCommandRows()[1].dialogCaption, "Torvane - Create Division for Force B");
+    EXPECT_FALSE(divisionCommandRows()[1].forceA);
+    for (const DivisionCommandRow& row : divisionCommandRows().first(2)) {
+        EXPECT_EQ(row.marker, nullptr);
+    }
+    EXPECT_EQ(editDivisionRows().data(), &divisionCommandRows()[2]);
 }
 
 TEST(RepositionTable, GivesEachEntryItsKey)

@@ -44,7 +44,8 @@ TEST_F(Placing, AClickPlacesTheDivisionThatWaits)
     EXPECT_EQ(position(0, 1), QStringLiteral("6000,-5400"));
     EXPECT_EQ(position(0, 2), QStringLiteral("6000,-4800"));
     EXPECT_EQ(valueOf(main().ChkPlotDiv), 0);
-    EXPECT_EQ(editor().createDivisionFrm().LblPicMap->text(), QStringLiteral("24720 X 6480"))
+    EXPECT_EQ(control<QLabel>(editor().createDivisionFrm(), QStringLiteral("LblPicMap"))->text(),
+              QStringLiteral("24720 X 6480"))
         << "from the top left corner, as the read-out";
     EXPECT_EQ(pixel(416, 90), QColor(Qt::blue)) << "drawn at its place";
     EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
