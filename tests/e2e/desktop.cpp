@@ -3,11 +3,20 @@
 #include <QDeadlineTimer>
 #include <QDir>
 #include <QFile>
+#include <QRegularExpression>
 #include <QThread>
+#include <QtEndian>
 
 #include <stdexcept>
+#include <utility>
 
 namespace torvane::testing {
+
+namespace {
+
+constexpr int keyDelay = 15; // milliseconds between two keys
+
+} // namespace
 
 bool eventually(const std::function<bool()>& condition, int milliseconds)
 {
@@ -21,13 +30,25 @@ bool eventually(const std::function<bool()>& condition, int milliseconds)
     return true;
 }
 
+qsizetype pixelsOf(const QImage& picture, QRgb colour)
+{
+    qsizetype count = 0;
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x) {
+            count += picture.pixel(x, y) == colour ? 1 : 0;
+        }
+    }
+    return count;
+}
+
 Desktop::Desktop()
 {
     // The server picks a free display number and tells it on its standard output.
     m_server.start(QStringLiteral("Xvfb"),
                    {QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-screen"),
                     QStringLiteral("0"), QStringLiteral("1280x900x24"), QStringLiteral("-nolisten"),
-                    QStringLiteral("tcp")});
+                    QStringLiteral("tcp"), QStringLiteral("-nocursor"), QStringLiteral("-fbdir"),
+                    m_frames.path()});
     if (!m_server.waitForStarted() || !m_server.waitForReadyRead(20000)) {
         throw std::runtime_error("Xvfb does not start");
     }
@@ -97,10 +118,14 @@ bool Desktop::hasNoWindow(const QString& title, int milliseconds) const
 
 void Desktop::press(const QStringList& keys) const
 {
-    for (const QString& key : keys) {
-        run(QStringLiteral("xdotool"), {QStringLiteral("key"), key});
-        QThread::msleep(60);
-    }
+    run(QStringLiteral("xdotool"),
+        QStringList{QStringLiteral("key"), QStringLiteral("--delay"), QString::number(keyDelay)} + keys);
+}
+
+void Desktop::type(const QString& text) const
+{
+    run(QStringLiteral("xdotool"),
+        {QStringLiteral("type"), QStringLiteral("--delay"), QString::number(keyDelay), text});
 }
 
 void Desktop::click(const QString& title, int x, int y) const
@@ -117,18 +142,74 @@ void Desktop::close(const QString& title) const
     press({QStringLiteral("alt+F4")});
 }
 
-bool Desktop::isActive(const QString& title) const
+QString Desktop::activeTitle() const
 {
-    return eventually([&] {
-        return run(QStringLiteral("xdotool"),
-                   {QStringLiteral("getactivewindow"), QStringLiteral("getwindowname")})
-                   .trimmed() == title;
-    });
+    return run(QStringLiteral("xdotool"),
+               {QStringLiteral("getactivewindow"), QStringLiteral("getwindowname")})
+        .trimmed();
 }
 
-void Desktop::screenshot(const QString& file) const
+bool Desktop::isActive(const QString& title, int milliseconds) const
 {
-    run(QStringLiteral("import"), {QStringLiteral("-window"), QStringLiteral("root"), file});
+    return eventually([&] { return activeTitle() == title; }, milliseconds);
+}
+
+QRect Desktop::activeGeometry() const
+{
+    const QString window = run(QStringLiteral("xdotool"), {QStringLiteral("getactivewindow")}).trimmed();
+    const QString told = run(QStringLiteral("xwininfo"), {QStringLiteral("-id"), window});
+    const auto number = [&told](const QString& label) {
+        const QRegularExpression line(label + QStringLiteral(":\\s+(-?\\d+)"));
+        return line.match(told).captured(1).toInt();
+    };
+    return {number(QStringLiteral("Absolute upper-left X")), number(QStringLiteral("Absolute upper-left Y")),
+            number(QStringLiteral("Width")), number(QStringLiteral("Height"))};
+}
+
+void Desktop::movePointer(QPoint place) const
+{
+    const QPoint onScreen = activeGeometry().topLeft() + place;
+    run(QStringLiteral("xdotool"),
+        {QStringLiteral("mousemove"), QString::number(onScreen.x()), QString::number(onScreen.y())});
+}
+
+void Desktop::clickActive(QPoint place, int button) const
+{
+    movePointer(place);
+    run(QStringLiteral("xdotool"), {QStringLiteral("click"), QString::number(button)});
+}
+
+// The server keeps its frame buffer in a file: a header of big-endian numbers, the header's texts, a colour
+// table, and then the pixels, four bytes each.
+QImage Desktop::screen() const
+{
+    enum Field { HeaderSize = 0, Width = 4, Height = 5, BytesPerLine = 12, Colours = 19 };
+    constexpr qsizetype colourSize = 12;
+    QFile file(m_frames.filePath(QStringLiteral("Xvfb_screen0")));
+    if (!file.open(QIODevice::ReadOnly)) {
+        throw std::runtime_error("Xvfb keeps no frame buffer");
+    }
+    const QByteArray bytes = file.readAll();
+    const auto field = [&bytes](Field index) {
+        return static_cast<int>(qFromBigEndian<quint32>(bytes.constData() + 4 * qsizetype{index}));
+    };
+    const qsizetype pixels = field(HeaderSize) + colourSize * field(Colours);
+    const auto* data = reinterpret_cast<const uchar*>(bytes.constData()) + pixels;
+    return QImage(data, field(Width), field(Height), field(BytesPerLine), QImage::Format_RGB32).copy();
+}
+
+QImage Desktop::activePicture() const
+{
+    const QRect place = activeGeometry();
+    QImage picture = screen().copy(place);
+    eventually(
+        [&] {
+            QThread::msleep(120);
+            const QImage before = std::exchange(picture, screen().copy(place));
+            return before == picture;
+        },
+        3000);
+    return picture;
 }
 
 static void copyTree(const QString& from, const QString& to)

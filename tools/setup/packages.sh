@@ -3,7 +3,8 @@
 
 build_packages=(g++ cmake ninja-build qt6-base-dev qt6-svg-dev libqt6sql6-sqlite)
 display_packages=(libqt6gui6 qt6-qpa-plugins fonts-dejavu-core)
-test_packages=(libgtest-dev libgmock-dev xvfb xauth openbox xdotool x11-utils sqlite3 binutils)
+tour_packages=(xvfb openbox xdotool x11-utils)
+test_packages=(libgtest-dev libgmock-dev "${tour_packages[@]}" xauth sqlite3 binutils)
 check_packages=(clang clang-format clang-tidy libclang-rt-14-dev git)
 bench_packages=(libbenchmark-dev libinih-dev libsimpleini-dev)
 
