@@ -81,10 +81,10 @@ void EditorRun::leave()
     }
 }
 
-void EditorRun::choose(int menu, const QList<int>& places) const
+void EditorRun::choose(Menu menu, const QList<int>& places) const
 {
     QStringList keys{QStringLiteral("F10")};
-    keys.append(QStringList(menu, QStringLiteral("Right")));
+    keys.append(QStringList(static_cast<int>(menu), QStringLiteral("Right")));
     keys.append(QStringLiteral("Down")); // opens the menu on its first entry
     for (qsizetype level = 0; level < places.size(); ++level) {
         if (level > 0) {
@@ -94,6 +94,20 @@ void EditorRun::choose(int menu, const QList<int>& places) const
     }
     keys.append(QStringLiteral("Return"));
     press(keys);
+}
+
+void EditorRun::load(const QString& fileName) const
+{
+    choose(Menu::File, {entry::load});
+    expect(QStringLiteral("the box that asks for a file"), [this] {
+        const QString title = m_desktop.activeTitle();
+        return !title.isEmpty() && title != names().mainWindow;
+    });
+    m_desktop.type(fileName);
+    press({QStringLiteral("Return")});
+    expectWindow(names().overview);
+    press({QStringLiteral("Return")});
+    expectWindow(names().mainWindow);
 }
 
 void EditorRun::expectWindow(const QString& title) const

@@ -24,6 +24,16 @@ struct ProgramNames
 };
 const ProgramNames& programNames(Language language);
 
+/// The menus of the main window by their places in the bar, and those of their entries that every road needs.
+enum class Menu { File, Overview, CreateDivision, EditDivision, EditShip, Reposition, Help };
+namespace entry {
+inline constexpr int fresh = 1;
+inline constexpr int load = 2;
+inline constexpr int save = 3;
+inline constexpr int overview = 1;
+inline constexpr int targetArea = 2;
+} // namespace entry
+
 /// One of the built programs on a screen, used as a person uses it who knows the keyboard: what leads through
 /// its menus and dialogs is the same in both languages. Every operation throws, and says what it waited for,
 /// if the program doesn't do what is expected of it.
@@ -43,9 +53,11 @@ public:
     /// Leaves the program without starting the game.
     void leave();
 
-    /// Chooses an entry of the main window's menus: the menu's place in the bar from 0, then the places in it
-    /// and in the menus below it from 1, counting what can be chosen.
-    void choose(int menu, const QList<int>& places) const;
+    /// Chooses an entry of the main window's menus by its place in the menu and in those below it, from 1, as
+    /// the arrow keys count them: what can be chosen alone.
+    void choose(Menu menu, const QList<int>& places) const;
+    /// Loads a scenario of the game folder by its file's name, and leaves the overview that shows it.
+    void load(const QString& fileName) const;
     /// Waits until the window of that title has the focus.
     void expectWindow(const QString& title) const;
     /// Waits until a condition holds.

@@ -9,15 +9,8 @@ namespace torvane::testing {
 namespace {
 
 const QString tab = QStringLiteral("Tab");
-const QString backTab = QStringLiteral("shift+Tab");
 const QString space = QStringLiteral("space");
 const QString enter = QStringLiteral("Return");
-
-// The menus of the bar, and the entries that can be chosen once a scenario is there.
-enum Menu { File, OverviewMenu, CreateDivision };
-constexpr int newEntry = 1;
-constexpr int saveEntry = 3;
-constexpr int targetAreaEntry = 2;
 
 constexpr int bombardment = 2; // in the list of missions
 constexpr int royalNavy = 3;   // in the lists of navies
@@ -44,36 +37,36 @@ const std::array<RoadDivision, 4>& roadDivisions()
     static const std::array<RoadDivision, 4> divisions{
         RoadDivision{.forceA = true,
                      .number = 1,
-                     .formation = 0,
-                     .heading = QStringLiteral("60"),
-                     .spacing = 5,
-                     .speed = QStringLiteral("24"),
+                     .settings = {.heading = QStringLiteral("60"),
+                                  .formation = 0,
+                                  .spacing = 5,
+                                  .speed = QStringLiteral("24")},
                      .ships = {QStringLiteral("Tirpitz"), QStringLiteral("Scharnhorst"),
                                QStringLiteral("Prinz Eugen")},
                      .place = {330, 190}},
         RoadDivision{.forceA = true,
                      .number = 2,
-                     .formation = 1,
-                     .heading = QStringLiteral("45"),
-                     .spacing = 1,
-                     .speed = QStringLiteral("28"),
+                     .settings = {.heading = QStringLiteral("45"),
+                                  .formation = 1,
+                                  .spacing = 1,
+                                  .speed = QStringLiteral("28")},
                      .ships = {QStringLiteral("Z23"), QStringLiteral("Z24"), QStringLiteral("Z25")},
                      .place = {270, 110}},
         RoadDivision{
             .forceA = false,
             .number = 1,
-            .formation = 0,
-            .heading = QStringLiteral("250"),
-            .spacing = 3,
-            .speed = QStringLiteral("26"),
+            .settings = {.heading = QStringLiteral("250"),
+                         .formation = 0,
+                         .spacing = 3,
+                         .speed = QStringLiteral("26")},
             .ships = {QStringLiteral("Norfolk"), QStringLiteral("Sheffield"), QStringLiteral("Cossack")},
             .place = {430, 260}},
         RoadDivision{.forceA = false,
                      .number = 2,
-                     .formation = 2,
-                     .heading = QStringLiteral("180"),
-                     .spacing = 0,
-                     .speed = QStringLiteral("11"),
+                     .settings = {.heading = QStringLiteral("180"),
+                                  .formation = 2,
+                                  .spacing = 0,
+                                  .speed = QStringLiteral("11")},
                      .ships = {QStringLiteral("Ohio"), QStringLiteral("Breconshire"),
                                QStringLiteral("Melbourne Star"), QStringLiteral("Eskimo")},
                      .place = {520, 330}}};
@@ -104,7 +97,7 @@ void FirstScenarioRoad::walk() const
 
 void FirstScenarioRoad::describe() const
 {
-    m_run.choose(File, {newEntry});
+    m_run.choose(Menu::File, {entry::fresh});
     m_run.expectWindow(m_run.names().overview);
     m_run.expect(QStringLiteral("the new scenario's defaults"), [this] {
         return !m_run.value(QStringLiteral("SCENARIODATA"), QStringLiteral("MOVIE")).isEmpty();
@@ -153,58 +146,18 @@ void FirstScenarioRoad::setWeather() const
 void FirstScenarioRoad::createDivision(const RoadDivision& division) const
 {
     const QString force = division.forceA ? QStringLiteral("A") : QStringLiteral("B");
-    const QString window = QStringLiteral("Torvane - Create Division for Force ") + force;
-    m_run.choose(CreateDivision, {division.forceA ? 1 : 2});
-    m_run.expectWindow(window);
-    m_run.press({enter}); // the ships come first
-    m_run.expectWindow(m_run.names().ships);
-    pickShips(division);
-    m_run.expectWindow(window);
-    setFormation(division);
-    m_run.press({enter});
-    m_run.expectWindow(m_run.names().mainWindow);
-}
-
-// The ships' list has the focus at first, and again after each ship that was found.
-void FirstScenarioRoad::pickShips(const RoadDivision& division) const
-{
+    m_run.choose(Menu::CreateDivision, {division.forceA ? 1 : 2});
+    const DivisionDialog dialog(m_run, QStringLiteral("Torvane - Create Division for Force ") + force,
+                                division.forceA, division.number);
+    dialog.openShipsOfNewDivision();
     for (const QString& ship : division.ships) {
-        m_run.press({backTab, space});
-        m_run.expectWindow(QStringLiteral("Ship Search"));
-        m_run.desktop().type(ship);
-        m_run.press({enter});
-        m_run.expectWindow(m_run.names().ships);
-        m_run.press({enter});
-        m_run.expect(ship + QStringLiteral(" among the picked ships"), [&] {
-            return m_run.lines(QStringLiteral("ShipTrack.bmm"))
-                .contains(QLatin1Char('"') + ship + QLatin1Char('"'));
-        });
+        dialog.pickShip(ship);
     }
-    show(QStringLiteral("ships_%1").arg(division.file(QString()).chopped(4)));
-    m_run.press(tab, 5);
-    m_run.press({space});
-    m_run.expect(QStringLiteral("the division's list of ships"), [&] {
-        return m_run.lines(division.file(QStringLiteral("Division"))).size() == division.ships.size();
-    });
-}
-
-void FirstScenarioRoad::setFormation(const RoadDivision& division) const
-{
-    m_run.press(tab, 2); // from Save to the lock of the settings
-    m_run.press({space});
-    m_run.replaceText(division.heading);
-    m_run.press(tab, 2);
-    m_run.pickEntry(division.formation);
-    m_run.press({tab});
-    m_run.pickEntry(division.spacing);
-    m_run.press(tab, 2);
-    m_run.replaceText(division.speed);
-    m_run.press({enter}); // locks the settings again
-    m_run.expect(QStringLiteral("the division's settings"), [&] {
-        return m_run.lines(division.file(QStringLiteral("DivData"))).value(3) ==
-               QLatin1Char('"') + division.heading + QLatin1Char('"');
-    });
-    show(QStringLiteral("division_%1").arg(division.file(QString()).chopped(4)));
+    show(QStringLiteral("ships_of_") + division.name());
+    dialog.keepShips(static_cast<int>(division.ships.size()));
+    dialog.change(division.settings);
+    show(QStringLiteral("division_") + division.name());
+    dialog.save();
 }
 
 void FirstScenarioRoad::place(const RoadDivision& division) const
@@ -214,13 +167,13 @@ void FirstScenarioRoad::place(const RoadDivision& division) const
     m_run.clickMap(division.place);
     m_run.expect(QStringLiteral("the division's place"),
                  [&] { return m_run.value(firstShip, QStringLiteral("XPOSITION")) != before; });
-    show(QStringLiteral("placed_%1").arg(division.file(QString()).chopped(4)));
+    show(QStringLiteral("placed_") + division.name());
 }
 
 void FirstScenarioRoad::placeTargetArea() const
 {
     const qsizetype before = pixelsOf(m_run.mapPicture(), areaColour);
-    m_run.choose(OverviewMenu, {targetAreaEntry});
+    m_run.choose(Menu::Overview, {entry::targetArea});
     m_run.clickMap(targetPlace);
     m_run.expect(QStringLiteral("the target area on the map"),
                  [&] { return pixelsOf(m_run.mapPicture(), areaColour) > before; });
@@ -229,7 +182,7 @@ void FirstScenarioRoad::placeTargetArea() const
 
 void FirstScenarioRoad::save() const
 {
-    m_run.choose(File, {saveEntry});
+    m_run.choose(Menu::File, {entry::save});
     m_run.expect(QStringLiteral("the scenario file"), [this] { return QFile::exists(savedFile()); });
     m_run.expectWindow(m_run.names().mainWindow);
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "e2e/editor_run.h"
+#include "e2e/division_dialog.h"
 
 #include <array>
 
@@ -10,21 +10,12 @@ namespace torvane::testing {
 struct RoadDivision
 {
     bool forceA;
-    int number;    ///< within its force, from 1
-    int formation; ///< place in the list, from 0
-    QString heading;
-    int spacing; ///< place in the list, from 0
-    QString speed;
+    int number; ///< within its force, from 1
+    DivisionSettings settings;
     QStringList ships; ///< their names in the catalogue
     QPoint place;      ///< pixel of the map that is clicked
 
-    /// The name of a file of the division in the work folder.
-    QString file(const QString& kind) const
-    {
-        return QStringLiteral("%1%2%3.txt")
-            .arg(kind, forceA ? QStringLiteral("A") : QStringLiteral("B"))
-            .arg(number);
-    }
+    QString name() const { return (forceA ? QStringLiteral("A%1") : QStringLiteral("B%1")).arg(number); }
 };
 /// Two a side, all three formations and all types of ships among them.
 const std::array<RoadDivision, 4>& roadDivisions();
@@ -49,8 +40,6 @@ private:
     void describe() const;
     void setWeather() const;
     void createDivision(const RoadDivision& division) const;
-    void pickShips(const RoadDivision& division) const;
-    void setFormation(const RoadDivision& division) const;
     void place(const RoadDivision& division) const;
     void placeTargetArea() const;
     void save() const;
