@@ -83,9 +83,10 @@ void EditorRun::leave()
 
 void EditorRun::choose(Menu menu, const QList<int>& places) const
 {
+    // F10 opens the first menu on none of its entries; a menu that an arrow opens stands on its first.
     QStringList keys{QStringLiteral("F10")};
-    keys.append(QStringList(static_cast<int>(menu), QStringLiteral("Right")));
-    keys.append(QStringLiteral("Down")); // opens the menu on its first entry
+    keys.append(menu == Menu::File ? QStringList{QStringLiteral("Down")}
+                                   : QStringList(static_cast<int>(menu), QStringLiteral("Right")));
     for (qsizetype level = 0; level < places.size(); ++level) {
         if (level > 0) {
             keys.append(QStringLiteral("Right"));

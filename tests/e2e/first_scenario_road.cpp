@@ -16,7 +16,7 @@ constexpr int bombardment = 2; // in the list of missions
 constexpr int royalNavy = 3;   // in the lists of navies
 constexpr int december = 11;
 constexpr int year1942 = 3;
-constexpr QPoint targetPlace(490, 120);
+constexpr QPoint targetPlace(400, 245);
 constexpr QRgb areaColour = 0xffff0000;
 
 QString sectionOf(const RoadDivision& division)
@@ -43,7 +43,7 @@ const std::array<RoadDivision, 4>& roadDivisions()
                                   .speed = QStringLiteral("24")},
                      .ships = {QStringLiteral("Tirpitz"), QStringLiteral("Scharnhorst"),
                                QStringLiteral("Prinz Eugen")},
-                     .place = {330, 190}},
+                     .place = {230, 190}},
         RoadDivision{.forceA = true,
                      .number = 2,
                      .settings = {.heading = QStringLiteral("45"),
@@ -51,7 +51,7 @@ const std::array<RoadDivision, 4>& roadDivisions()
                                   .spacing = 1,
                                   .speed = QStringLiteral("28")},
                      .ships = {QStringLiteral("Z23"), QStringLiteral("Z24"), QStringLiteral("Z25")},
-                     .place = {270, 110}},
+                     .place = {120, 110}},
         RoadDivision{
             .forceA = false,
             .number = 1,
@@ -60,16 +60,16 @@ const std::array<RoadDivision, 4>& roadDivisions()
                          .spacing = 3,
                          .speed = QStringLiteral("26")},
             .ships = {QStringLiteral("Norfolk"), QStringLiteral("Sheffield"), QStringLiteral("Cossack")},
-            .place = {430, 260}},
+            .place = {470, 120}},
         RoadDivision{.forceA = false,
                      .number = 2,
                      .settings = {.heading = QStringLiteral("180"),
                                   .formation = 2,
-                                  .spacing = 0,
+                                  .spacing = 6,
                                   .speed = QStringLiteral("11")},
                      .ships = {QStringLiteral("Ohio"), QStringLiteral("Breconshire"),
                                QStringLiteral("Melbourne Star"), QStringLiteral("Eskimo")},
-                     .place = {520, 330}}};
+                     .place = {500, 330}}};
     return divisions;
 }
 
