@@ -43,42 +43,71 @@ qsizetype pixelsOf(const QImage& picture, QRgb colour)
 
 Desktop::Desktop()
 {
+    try {
+        startServer();
+        startManager();
+    } catch (...) {
+        end();
+        throw;
+    }
+}
+
+Desktop::~Desktop()
+{
+    end();
+}
+
+void Desktop::end()
+{
+    for (QProcess* process : {&m_manager, &m_server}) {
+        process->terminate();
+        if (process->state() != QProcess::NotRunning && !process->waitForFinished(5000)) {
+            process->kill();
+            process->waitForFinished();
+        }
+    }
+}
+
+void Desktop::startServer()
+{
     // The server picks a free display number and tells it on its standard output.
     m_server.start(QStringLiteral("Xvfb"),
                    {QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-screen"),
                     QStringLiteral("0"), QStringLiteral("1280x900x24"), QStringLiteral("-nolisten"),
                     QStringLiteral("tcp"), QStringLiteral("-nocursor"), QStringLiteral("-fbdir"),
                     m_frames.path()});
-    if (!m_server.waitForStarted() || !m_server.waitForReadyRead(20000)) {
-        throw std::runtime_error("Xvfb does not start");
+    QByteArray number;
+    while (!number.endsWith('\n')) {
+        if (!m_server.waitForReadyRead(20000)) {
+            throw std::runtime_error("Xvfb does not start: " + m_server.readAllStandardError().toStdString());
+        }
+        number += m_server.readAllStandardOutput();
     }
-    m_display = QLatin1Char(':') + QString::fromLatin1(m_server.readAllStandardOutput()).trimmed();
+    m_display = QLatin1Char(':') + QString::fromLatin1(number).trimmed();
+}
+
+// A server that has just told its number may still refuse its first client on a busy machine.
+void Desktop::startManager()
+{
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(QStringLiteral("DISPLAY"), m_display);
     m_manager.setProcessEnvironment(environment);
-    m_manager.setStandardErrorFile(QProcess::nullDevice());
-    m_manager.start(QStringLiteral("openbox"), {});
-    if (!m_manager.waitForStarted()) {
-        throw std::runtime_error("openbox does not start");
-    }
-    const bool managed = eventually([this] {
+    m_manager.setProcessChannelMode(QProcess::MergedChannels);
+    QByteArray said;
+    const bool managed = eventually([&] {
+        if (m_manager.state() == QProcess::NotRunning) {
+            said = m_manager.readAll();
+            m_manager.start(QStringLiteral("openbox"), {});
+            m_manager.waitForStarted();
+        }
+        m_manager.waitForFinished(1); // takes notice of its end
         return run(QStringLiteral("xprop"),
                    {QStringLiteral("-root"), QStringLiteral("_NET_SUPPORTING_WM_CHECK")})
             .contains(QLatin1StringView("window id"));
     });
     if (!managed) {
-        throw std::runtime_error("openbox does not manage the screen");
-    }
-}
-
-Desktop::~Desktop()
-{
-    for (QProcess* process : {&m_manager, &m_server}) {
-        process->terminate();
-        if (!process->waitForFinished(5000)) {
-            process->kill();
-            process->waitForFinished();
-        }
+        throw std::runtime_error("openbox does not manage the screen " + m_display.toStdString() + ": " +
+                                 (said + m_manager.readAll()).toStdString());
     }
 }
 

@@ -58,6 +58,10 @@ public:
     QString run(const QString& program, const QStringList& arguments) const;
 
 private:
+    void startServer();
+    void startManager();
+    void end();
+
     QTemporaryDir m_frames; ///< the server's frame buffer, as a file
     QString m_display;
     QProcess m_server;

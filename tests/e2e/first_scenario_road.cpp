@@ -65,10 +65,10 @@ const std::array<RoadDivision, 4>& roadDivisions()
                      .number = 2,
                      .settings = {.heading = QStringLiteral("180"),
                                   .formation = 2,
-                                  .spacing = 6,
+                                  .spacing = 7,
                                   .speed = QStringLiteral("11")},
-                     .ships = {QStringLiteral("Ohio"), QStringLiteral("Breconshire"),
-                               QStringLiteral("Melbourne Star"), QStringLiteral("Eskimo")},
+                     .ships = {QStringLiteral("Ohio"), QStringLiteral("Melbourne Star"),
+                               QStringLiteral("Glenroy"), QStringLiteral("Eskimo")},
                      .place = {500, 330}}};
     return divisions;
 }
