@@ -96,7 +96,7 @@ void Desktop::startManager()
     QByteArray said;
     const bool managed = eventually([&] {
         if (m_manager.state() == QProcess::NotRunning) {
-            said = m_manager.readAll();
+            said = m_manager.isOpen() ? m_manager.readAll() : QByteArray();
             m_manager.start(QStringLiteral("openbox"), {});
             m_manager.waitForStarted();
         }

@@ -83,10 +83,12 @@ void EditorRun::leave()
 
 void EditorRun::choose(Menu menu, const QList<int>& places) const
 {
-    // F10 opens the first menu on none of its entries; a menu that an arrow opens stands on its first.
+    // F10 opens the first menu on none of its entries; a menu that an arrow opens stands on its first. The
+    // way goes to the left, round the end of the bar: to the right it would lead into the menus of forces.
+    constexpr int menus = static_cast<int>(Menu::Help) + 1;
     QStringList keys{QStringLiteral("F10")};
     keys.append(menu == Menu::File ? QStringList{QStringLiteral("Down")}
-                                   : QStringList(static_cast<int>(menu), QStringLiteral("Right")));
+                                   : QStringList(menus - static_cast<int>(menu), QStringLiteral("Left")));
     for (qsizetype level = 0; level < places.size(); ++level) {
         if (level > 0) {
             keys.append(QStringLiteral("Right"));

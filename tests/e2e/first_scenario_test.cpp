@@ -1,8 +1,5 @@
 #include "e2e/first_scenario_road.h"
 #include "e2e/kept_scenario.h"
-#include "support/printers.h"
-
-#include <gmock/gmock.h>
 
 namespace torvane::testing {
 namespace {
@@ -23,8 +20,7 @@ TEST_P(FirstScenario, GoesFromNewToAFileForTheGame)
     run.start();
     const FirstScenarioRoad road(run);
     road.walk();
-    EXPECT_EQ(linesOf(road.savedFile()), linesOf(keptScenario("first", GetParam())));
-    EXPECT_EQ(bytesOf(road.savedFile()), bytesOf(keptScenario("first", GetParam())));
+    expectKept(road.savedFile(), "first", GetParam());
     run.leave();
 }
 

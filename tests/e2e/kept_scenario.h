@@ -1,10 +1,14 @@
 #pragma once
 
 #include "platform/language.h"
+#include "support/printers.h"
 
+#include <QDir>
 #include <QFile>
 #include <QString>
 #include <QStringList>
+
+#include <gmock/gmock.h>
 
 #include <string>
 
@@ -32,6 +36,22 @@ inline QByteArray bytesOf(const QString& path)
 inline QStringList linesOf(const QString& path)
 {
     return QString::fromLatin1(bytesOf(path)).split(QStringLiteral("\r\n"));
+}
+
+/// Expects a saved scenario to be the kept one, byte for byte. One that isn't is put beside the test's
+/// program, in the folder `saved`, for a comparison.
+inline void expectKept(const QString& saved, const char* road, Language language)
+{
+    const QString kept = keptScenario(road, language);
+    EXPECT_EQ(linesOf(saved), linesOf(kept));
+    EXPECT_TRUE(bytesOf(saved) == bytesOf(kept));
+    if (::testing::Test::HasFailure()) {
+        const QDir folder(QStringLiteral(TORVANE_OUTPUT_DIR "/saved"));
+        folder.mkpath(QStringLiteral("."));
+        const QString copy = folder.filePath(QString(kept).section(QLatin1Char('/'), -1));
+        QFile::remove(copy);
+        QFile::copy(saved, copy);
+    }
 }
 
 } // namespace torvane::testing

@@ -1,10 +1,5 @@
 #include "e2e/editor_run.h"
 #include "e2e/kept_scenario.h"
-#include "support/printers.h"
-
-#include <QDir>
-
-#include <gmock/gmock.h>
 
 namespace torvane::testing {
 namespace {
@@ -49,8 +44,9 @@ protected:
 
     void keepPicture(const QString& name)
     {
-        QDir().mkpath(QStringLiteral(TORVANE_PICTURES_DIR));
-        run.desktop().activePicture().save(QStringLiteral(TORVANE_PICTURES_DIR "/%1.png").arg(name));
+        const QDir pictures(QStringLiteral(TORVANE_OUTPUT_DIR "/pictures"));
+        pictures.mkpath(QStringLiteral("."));
+        ASSERT_TRUE(desktop.activePicture().save(pictures.filePath(name + QStringLiteral(".png"))));
     }
 
     Desktop desktop;
