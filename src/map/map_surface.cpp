@@ -228,7 +228,7 @@ void MapSurface::makeTools()
     m_tools->watch(m_rulerCaption, ToolRow::Place::Ruler);
     m_tools->watch(m_distance, ToolRow::Place::Ruler);
     m_tools->watch(m_scalePanel, ToolRow::Place::ScalePanel);
-    m_tools->leadTabThrough(m_map);
+    m_tools->leadTabThrough({m_map, m_horizontal, m_vertical});
 }
 
 void MapSurface::arrange(const MapLayout& layout)
