@@ -1,5 +1,6 @@
-// A redraw of the map with 32 ships and the rings of all families, beside the drawing of the same marks
-// alone; and circles far larger than the picture beside some inside it.
+// A redraw of the map with 32 ships, with the rings of all families and without, and with 120 ships, beside
+// the drawing of the same marks alone; what 1,000 redraws leave in memory; and circles far larger than the
+// picture beside some inside it.
 
 #include "map/draw_marks.h"
 #include "map/map_geometry.h"
@@ -18,31 +19,36 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QFile>
 #include <QTemporaryDir>
 
 #include <benchmark/benchmark.h>
 
 #include <array>
+#include <unistd.h>
 #include <variant>
 
 using namespace torvane;
 
 namespace {
 
-constexpr int divisions = 4;
 constexpr int shipsOfADivision = 8;
-constexpr int classes = 250;
+constexpr int largestDivision = 10;
+constexpr int classes = 1000;
 
 QString className(int number)
 {
     return QStringLiteral("Class %1").arg(number);
 }
 
-/// A run with 32 ships spread over the middle of the map, and the tools of all rings pressed.
-class RunWithRings
+/// A run with ships spread over the middle of the map, all labels and the small grid, and with the tools of
+/// all rings pressed or of none.
+class RunWithShips
 {
 public:
-    explicit RunWithRings(int zoomIndex)
+    RunWithShips(int ships, bool rings, int zoomIndex)
+        : m_divisionSize(ships > shipsOfADivision * divisionSections ? largestDivision : shipsOfADivision),
+          m_divisions(ships / m_divisionSize)
     {
         QDir(m_folder.path()).mkpath(QStringLiteral("ScenarioEditor"));
         createWorkingTables(workDir() + scenarioDataFile);
@@ -52,8 +58,10 @@ public:
         m_editor.mainFrm().showForm();
         QCoreApplication::processEvents();
         m_editor.forms().runHandler([this] { addShips(); });
-        for (const char* tool : {"cmdVisibCircles", "cmdGunCircles", "cmdRadarCircles"}) {
-            m_editor.mainFrm().findChild<PictureButton*>(QLatin1StringView(tool))->click();
+        if (rings) {
+            for (const char* tool : {"cmdVisibCircles", "cmdGunCircles", "cmdRadarCircles"}) {
+                m_editor.mainFrm().findChild<PictureButton*>(QLatin1StringView(tool))->click();
+            }
         }
         // At the start the default is on, whose click would do nothing.
         m_editor.zoomLevelFrm().findChild<OptionButton*>(zoomOption(zoomIndex))->click();
@@ -107,9 +115,9 @@ private:
     void addShips()
     {
         WorkingProfile& profile = m_editor.workingProfile();
-        profile.write(u"SCENARIOINFO", u"DIVISIONCNT", QString::number(divisions));
+        profile.write(u"SCENARIOINFO", u"DIVISIONCNT", QString::number(m_divisions));
         constexpr std::array<const char*, 6> types{"BB", "BC", "CA", "CL", "DD", "TR"};
-        for (int n = 0; n < divisions; ++n) {
+        for (int n = 0; n < m_divisions; ++n) {
             const QString section = divisionSection(n);
             const std::array<std::pair<const char*, QString>, 8> keys{
                 {{"DIVISIONNAME", QStringLiteral("Division %1").arg(n / 2 + 1)},
@@ -118,13 +126,13 @@ private:
                  {"FORMATIONHEADING", QString::number(45 * n)},
                  {"FORMATIONSPACING", QStringLiteral("500")},
                  {"SPEED", QStringLiteral("20")},
-                 {"SHIPCNT", QString::number(shipsOfADivision)},
+                 {"SHIPCNT", QString::number(m_divisionSize)},
                  {"FLAGSHIPINDEX", QStringLiteral("0")}}};
             for (const auto& [key, value] : keys) {
                 profile.write(section, QLatin1StringView(key).toString(), value);
             }
-            for (int m = 0; m < shipsOfADivision; ++m) {
-                const int number = n * shipsOfADivision + m;
+            for (int m = 0; m < m_divisionSize; ++m) {
+                const int number = n * m_divisionSize + m;
                 addShip(shipSection(n, m), types.at(static_cast<std::size_t>(number) % types.size()), number);
             }
         }
@@ -145,6 +153,8 @@ private:
         }
     }
 
+    const int m_divisionSize;
+    const int m_divisions;
     QTemporaryDir m_folder;
     torvane::testing::ScriptedServices m_script;
     Editor m_editor{m_folder.path(), BuildOptions{.language = Language::English}, m_script.services()};
@@ -160,9 +170,11 @@ void countMarks(benchmark::State& state, const MarkList& marks)
     state.counters["circles"] = circles;
 }
 
-void floorTheSameMarks(benchmark::State& state)
+constexpr bool withRings = true;
+constexpr int levelFive = 4; // its zoomIndex
+
+void floorTheSameMarks(benchmark::State& state, RunWithShips& run)
 {
-    RunWithRings run(static_cast<int>(state.range(0)));
     const MarkList marks = run.marks();
     for (auto _ : state) {
         run.map().clear();
@@ -171,13 +183,63 @@ void floorTheSameMarks(benchmark::State& state)
     countMarks(state, marks);
 }
 
-void redraw(benchmark::State& state)
+void redraw(benchmark::State& state, RunWithShips& run)
 {
-    RunWithRings run(static_cast<int>(state.range(0)));
     for (auto _ : state) {
         run.redraw();
     }
     countMarks(state, run.marks());
+}
+
+void floorOfRings(benchmark::State& state)
+{
+    RunWithShips run(32, withRings, static_cast<int>(state.range(0)));
+    floorTheSameMarks(state, run);
+}
+
+void redrawRings(benchmark::State& state)
+{
+    RunWithShips run(32, withRings, static_cast<int>(state.range(0)));
+    redraw(state, run);
+}
+
+void floorOfShips(benchmark::State& state)
+{
+    RunWithShips run(static_cast<int>(state.range(0)), !withRings, levelFive);
+    floorTheSameMarks(state, run);
+}
+
+void redrawShips(benchmark::State& state)
+{
+    RunWithShips run(static_cast<int>(state.range(0)), !withRings, levelFive);
+    redraw(state, run);
+}
+
+/// Resident memory of this process in bytes.
+double residentBytes()
+{
+    QFile file(QStringLiteral("/proc/self/statm"));
+    if (!file.open(QIODevice::ReadOnly)) {
+        return 0;
+    }
+    return file.readAll().split(' ').value(1).toDouble() * static_cast<double>(::sysconf(_SC_PAGESIZE));
+}
+
+/// What 1,000 redraws leave, after the first hundred have filled what is kept.
+void thousandRedraws(benchmark::State& state)
+{
+    RunWithShips run(32, withRings, levelFive);
+    const auto redraws = [&run](int count) {
+        for (int i = 0; i < count; ++i) {
+            run.redraw();
+        }
+    };
+    redraws(100);
+    const double before = residentBytes();
+    for (auto _ : state) {
+        redraws(1000);
+    }
+    state.counters["grown_bytes"] = residentBytes() - before;
 }
 
 /// Circles through the middle of the picture, or wholly in it.
@@ -194,8 +256,11 @@ void circle(benchmark::State& state)
     }
 }
 
-BENCHMARK(floorTheSameMarks)->ArgName("zoomIndex")->Arg(4)->Arg(1)->Arg(10)->Unit(benchmark::kMillisecond);
-BENCHMARK(redraw)->ArgName("zoomIndex")->Arg(4)->Arg(1)->Arg(10)->Unit(benchmark::kMillisecond);
+BENCHMARK(floorOfShips)->ArgName("ships")->Arg(32)->Arg(120)->Unit(benchmark::kMillisecond);
+BENCHMARK(redrawShips)->ArgName("ships")->Arg(32)->Arg(120)->Unit(benchmark::kMillisecond);
+BENCHMARK(floorOfRings)->ArgName("zoomIndex")->Arg(4)->Arg(1)->Arg(10)->Unit(benchmark::kMillisecond);
+BENCHMARK(redrawRings)->ArgName("zoomIndex")->Arg(4)->Arg(1)->Arg(10)->Unit(benchmark::kMillisecond);
+BENCHMARK(thousandRedraws)->Iterations(1)->Unit(benchmark::kMillisecond);
 BENCHMARK(circle)
     ->ArgName("radius")
     ->Arg(200)
