@@ -1,6 +1,7 @@
 #include "guide/check_guide.h"
 #include "guide/write_guide.h"
 #include "map/map_geometry.h"
+#include "map/view_tools.h"
 #include "overview/environment_rules.h"
 #include "overview/missions.h"
 #include "overview/overview_texts.h"
@@ -168,8 +169,8 @@ TEST(DeliveredGuide, ExplainsWhatTheMainWindowSays)
                                        MainText::HelpTagsOn, MainText::HelpTagsOff, MainText::RulerCaption}) {
             expectExplained(mainText(message, language), language, text);
         }
-        for (const HelpTagRow& tag : helpTags) {
-            expectExplained(tag.in(language).string(), language, text);
+        for (const ViewTool& tool : viewTools) {
+            expectExplained(tool.tagText(language).string(), language, text);
         }
     }
 }
