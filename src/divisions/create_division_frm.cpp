@@ -1,5 +1,6 @@
 #include "divisions/create_division_frm.h"
 
+#include "shell/captions.h"
 #include "shell/editor.h"
 
 namespace torvane {
@@ -27,15 +28,16 @@ DivisionFields CreateDivisionFrm::fields() const
             .speed = m_txtSpeed->text()};
 }
 
-void CreateDivisionFrm::takeShips(const QStringList& entries, const QString& caption)
+void CreateDivisionFrm::showKeptShips(int number, const QStringList& lines)
 {
     m_grdDivision->clearContents();
-    m_grdDivision->setRowCount(static_cast<int>(entries.size()));
+    m_grdDivision->setRowCount(static_cast<int>(lines.size()));
     for (int row = 0; row < m_grdDivision->rowCount(); ++row) {
-        m_grdDivision->setItem(row, 0, new QTableWidgetItem(entries[row]));
+        m_grdDivision->setItem(row, 0, new QTableWidgetItem(lines[row]));
     }
     m_grdDivision->setItem(0, 1, new QTableWidgetItem(QStringLiteral("FL")));
-    m_lblDivName->setText(caption);
+    m_lblDivName->setText(mainText(MainText::Division, m_editor.language()) + QLatin1Char(' ') +
+                          QString::number(number));
 }
 
 } // namespace torvane

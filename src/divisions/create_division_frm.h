@@ -33,12 +33,12 @@ public:
     /// `chkDiv1` to `chkDiv12`: which division an edit is about.
     std::array<QCheckBox*, 12> chkDiv{};
 
-    /// The caption of `lblDivName`.
-    QString divisionCaption() const { return m_lblDivName->text(); }
+    /// The division's name in the language of the interface; its last character is the number.
+    QString divisionLabel() const { return m_lblDivName->text(); }
     /// What the controls show.
     DivisionFields fields() const;
-    /// Shows the ships of the division, the first as the flagship, and the division's name.
-    void takeShips(const QStringList& entries, const QString& caption);
+    /// Takes the ships that the ship dialog kept: type, blank, name. The first one becomes the flagship.
+    void showKeptShips(int number, const QStringList& lines);
 
 private:
     QLabel* const m_lblDivName = hiddenControl<QLabel>("lblDivName");
