@@ -84,7 +84,7 @@ void ShipDBaseFrm::applyCaptions(Language language)
     applyCaptionTable(*this, shipCaptions, language);
     applyControlTips(*this, shipTips, language);
     m_model->setLanguage(language);
-    m_ui->Grid1->setAccessibleName(captionOf(shipCaptions, u"Frame2", language));
+    m_ui->Grid1->setAccessibleName(shipText(ShipText::GridName, language));
     m_ui->LstDivision->setAccessibleName(mainText(MainText::Division, language));
 }
 

@@ -78,6 +78,15 @@ TEST_F(ShipWindow, TheOtherMouseButtonsPickNothing)
     EXPECT_EQ(listed(), QStringList());
 }
 
+TEST_F(ShipWindow, ADoubleClickPicksOnce)
+{
+    openShips();
+    QTest::mouseDClick(grid()->viewport(), Qt::LeftButton, {}, placeOf("Ardent"));
+    settle();
+    EXPECT_EQ(listed(), QStringList("DD Ardent"));
+    EXPECT_TRUE(boxes().isEmpty());
+}
+
 TEST_F(ShipWindow, FortyQuickClicksOnARowPickOneShip)
 {
     openShips();
