@@ -1,4 +1,4 @@
-#include "ship_dialog_fixture.h"
+#include "ship_selection_fixture.h"
 
 #include <QAbstractItemView>
 #include <QComboBox>
@@ -7,7 +7,7 @@ namespace torvane::testing {
 namespace {
 
 /// The right part of the ship dialog: picks, removals, and the ways out.
-class ShipWindow : public ShipDialog
+class ShipWindow : public ShipSelectionDialog
 {
 protected:
     QString gridCell(int row, int column)
