@@ -1,6 +1,7 @@
 #include "guide/check_guide.h"
 #include "guide/write_guide.h"
 #include "map/map_geometry.h"
+#include "map/range_rings.h"
 #include "overview/environment_rules.h"
 #include "overview/missions.h"
 #include "overview/overview_texts.h"
@@ -290,6 +291,35 @@ TEST(DeliveredGuide, TellsTheWindOfEverySeaState)
         }
         EXPECT_EQ(rows[0].mid(1), expected);
     }
+}
+
+/// The three rings of a table, as the guide shows them: to each target, by battleship, cruiser and destroyer.
+void expectReach(const RangeTable& table, const QString& section)
+{
+    for (const Language language : bothLanguages) {
+        const QList<QStringList> rows = tableRows(QStringLiteral("rings"), section, language);
+        ASSERT_EQ(rows.size(), static_cast<qsizetype>(ringClasses.size()));
+        for (std::size_t i = 0; i < ringClasses.size(); ++i) {
+            const QStringList& row = rows[static_cast<qsizetype>(i)];
+            EXPECT_TRUE(row[0].contains(ringClasses[i].label)) << row[0].toStdString();
+            QStringList expected;
+            for (const char* type : {"BB", "CA", "DD"}) {
+                expected.append(QString::number(
+                    rangeOf(table, typeIndex(QString::fromLatin1(type)), ringClasses[i].number)));
+            }
+            EXPECT_EQ(row.mid(1), expected);
+        }
+    }
+}
+
+TEST(DeliveredGuide, TellsHowFarShipsSee)
+{
+    expectReach(visibilityRangeTable, QStringLiteral("visibility"));
+}
+
+TEST(DeliveredGuide, TellsHowFarRadarReaches)
+{
+    expectReach(radarRangeTable, QStringLiteral("radar"));
 }
 
 TEST(DeliveredGuide, SpeaksToAuthorsAndNotOfTheProgramsInside)
