@@ -8,6 +8,8 @@
 #include "shell/help_frm.h"
 #include "shell/main_frm.h"
 #include "shell/splash_frm.h"
+#include "ship_selection/ship_dbase_frm.h"
+#include "ship_state/ship_data_frm.h"
 #include "support/editor_fixture.h"
 
 #include <QAbstractButton>
@@ -37,6 +39,8 @@ const Subject subjects[] = {
     {"CreateDivisionFrm", [](Editor& editor) -> Form& { return editor.createDivisionFrm(); }},
     {"ZoomLevelFrm", [](Editor& editor) -> Form& { return editor.zoomLevelFrm(); }},
     {"GridLevelFrm", [](Editor& editor) -> Form& { return editor.gridLevelFrm(); }},
+    {"ShipDBaseFrm", [](Editor& editor) -> Form& { return editor.shipDBaseFrm(); }},
+    {"ShipDataFrm", [](Editor& editor) -> Form& { return editor.shipDataFrm(); }},
 };
 
 // What Qt makes for itself inside its own controls carries Qt's names, or none inside a control.
