@@ -11,6 +11,7 @@
 #include "shell/commands.h"
 #include "shell/edit_ship_commands.h"
 #include "shell/editor.h"
+#include "shell/load_commands.h"
 #include "shell/main_menu.h"
 #include "shell/new_scenario.h"
 #include "shell/save_commands.h"
@@ -75,6 +76,7 @@ void MainFrm::connectCommands()
         on(m_menu->action(QLatin1StringView(entry)), &QAction::triggered, handler);
     };
     command("mnuNew", [this] { newScenario(m_editor); });
+    command("mnuLoad", [this] { loadScenario(m_editor); });
     command("mnuSave", [this] { saveScenario(m_editor); });
     command("mnuSaveAs", [this] { saveScenarioAs(m_editor); });
     command("mnuOverView", [this] { showOverview(); });
@@ -82,8 +84,7 @@ void MainFrm::connectCommands()
     command("mnuHotText", [this] { toggleHelpTags(); });
     command("mnuAbout", [this] { showAbout(); });
     command("mnuHelpTopics", [this] {
-        m_editor.services().helpViewer.showContents(m_editor.paths().workDir +
-                                                    QStringLiteral("SE_README.HLP"));
+        m_editor.services().helpViewer.showContents(m_editor.paths().workDir + helpFileName);
     });
     for (const QString& entry : editShipEntries()) {
         on(m_menu->action(entry), &QAction::triggered, [this, entry] { editShip(m_editor, entry); });
@@ -279,6 +280,7 @@ void MainFrm::unload()
 void MainFrm::killFiles()
 {
     m_editor.scratchFiles().killFiles();
+    m_editor.scratchFiles().killSurplusDivisions();
 }
 
 void MainFrm::emptyDBase()
