@@ -135,19 +135,19 @@ void CreateDivisionFrm::fixSizes()
     const QFontMetrics metrics(m_ui->PicDivName->font());
     int width = 0;
     for (const Language language : {Language::English, Language::German}) {
-        width = std::max(width, metrics.horizontalAdvance(torvane::divisionLabel(divisionLimit, language)));
+        width = std::max(width, metrics.horizontalAdvance(divisionLabel(divisionLimit, language)));
     }
     m_ui->PicDivName->setFixedSize(width + metrics.averageCharWidth(), metrics.height());
 }
 
-QString CreateDivisionFrm::divisionLabel() const
+QString CreateDivisionFrm::divisionCaption() const
 {
     return m_ui->lblDivName->text();
 }
 
 DivisionFields CreateDivisionFrm::fields() const
 {
-    return {.divisionLabel = divisionLabel(),
+    return {.divisionLabel = divisionCaption(),
             .sideLabel = lblside->text(),
             .formation = m_ui->CmbFormation->shownText(),
             .heading = m_ui->TxtHeading->text(),
@@ -205,7 +205,7 @@ bool CreateDivisionFrm::beginCreation()
     }
     resetDialogForNewDivision();
     setValue(side() == Side::Blue ? ChknewBlueFlag : ChknewRedFlag, 0);
-    const QString label = torvane::divisionLabel(count, m_editor.language());
+    const QString label = divisionLabel(count, m_editor.language());
     showName(label, label);
     return true;
 }
@@ -240,9 +240,9 @@ void CreateDivisionFrm::beginEdit()
     }
     setValue(findChild<QCheckBox*>(QLatin1StringView(chosen->marker)), 0);
     const int number = static_cast<int>(chosen - rows.begin()) % divisionLimit + 1;
-    const QString name = torvane::divisionLabel(number, Language::English);
+    const QString name = divisionLabel(number, Language::English);
     clearGrid();
-    showName(name, torvane::divisionLabel(number, m_editor.language()));
+    showName(name, divisionLabel(number, m_editor.language()));
     loadDivision(name, number);
 }
 

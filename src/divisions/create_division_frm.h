@@ -45,11 +45,12 @@ public:
     std::array<QCheckBox*, 12> chkDiv{};
 
     /// The division's name in the language of the interface; its last character is the number.
-    QString divisionLabel() const;
+    QString divisionCaption() const;
     /// What the controls show.
     DivisionFields fields() const;
-    /// Takes the ships that the ship dialog kept: type, blank, name. The first one becomes the flagship.
-    void showKeptShips(int number, const QStringList& lines);
+    /// Takes the ships that the ship dialog kept (type, blank, name), and the division's name. The first ship
+    /// becomes the flagship.
+    void takeShips(const QStringList& entries, const QString& caption);
     /// Tells where the division stands, or where the map last placed it.
     void showPlacement(const QString& text);
 

@@ -264,10 +264,10 @@ std::optional<int> CreateDivisionFrm::flagshipRow() const
     return std::nullopt;
 }
 
-void CreateDivisionFrm::showKeptShips(int number, const QStringList& lines)
+void CreateDivisionFrm::takeShips(const QStringList& entries, const QString& caption)
 {
-    m_ui->lblDivName->setText(torvane::divisionLabel(number, m_editor.language()));
-    fillGrid(lines, {0});
+    m_ui->lblDivName->setText(caption);
+    fillGrid(entries, {0});
     showShipCount();
 }
 

@@ -4,6 +4,7 @@
 #include "shell/editor.h"
 
 #include <QAbstractButton>
+#include <QGroupBox>
 #include <QLabel>
 
 namespace torvane {
@@ -18,6 +19,8 @@ void applyCaptionTable(QWidget& window, std::span<const CaptionRow> captions, La
             label->setText(caption);
         } else if (auto* button = window.findChild<QAbstractButton*>(row.control)) {
             button->setText(caption);
+        } else if (auto* group = window.findChild<QGroupBox*>(row.control)) {
+            group->setTitle(caption);
         }
     }
 }

@@ -6,6 +6,7 @@
 #include <QFileInfo>
 #include <QSaveFile>
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <cstdlib>
@@ -75,6 +76,17 @@ QByteArray readAll(const Descriptor& file, const QString& path)
             throw fileError(path, errno);
         }
         bytes.append(block.data(), std::max<ssize_t>(count, 0));
+    }
+}
+
+void writeAll(const Descriptor& file, const QString& path, QByteArrayView bytes)
+{
+    while (!bytes.isEmpty()) {
+        const ssize_t count = ::write(file.handle(), bytes.data(), static_cast<std::size_t>(bytes.size()));
+        if (count < 0 && errno != EINTR) {
+            throw fileError(path, errno);
+        }
+        bytes = bytes.sliced(std::max<ssize_t>(count, 0));
     }
 }
 
@@ -149,6 +161,25 @@ void writeWholeFile(const QString& path, QByteArrayView bytes)
     errno = 0;
     check(file.commit());
     syncFolderOf(path);
+}
+
+void writeScratchFile(const QString& path, QByteArrayView bytes)
+{
+    const QByteArray target = systemPath(path);
+    QByteArray name = target + ".XXXXXX";
+    Descriptor file(::mkostemp(name.data(), O_CLOEXEC));
+    if (!file.isOpen()) {
+        throw folderError(path, errno);
+    }
+    try {
+        writeAll(file, path, bytes);
+        if (!file.close() || ::rename(name.constData(), target.constData()) != 0) {
+            throw fileError(path, errno);
+        }
+    } catch (const RuntimeError&) {
+        ::unlink(name.constData());
+        throw;
+    }
 }
 
 void deleteFile(const QString& path)

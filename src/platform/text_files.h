@@ -15,6 +15,10 @@ QByteArray readWholeFile(const QString& path);
 /// file as it was.
 void writeWholeFile(const QString& path, QByteArrayView bytes);
 
+/// The same without waiting for the disk, for files that no one needs after a crash: readers find the old
+/// bytes or the new ones, but a power cut may leave neither.
+void writeScratchFile(const QString& path, QByteArrayView bytes);
+
 /// Deletes a file if it exists. Throws RuntimeError if it exists and can't be deleted. A folder of that name
 /// can't be deleted.
 void deleteFile(const QString& path);

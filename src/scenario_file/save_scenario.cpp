@@ -9,8 +9,6 @@
 #include "store/units.h"
 #include "store/working_profile.h"
 
-#include <QFileInfo>
-
 #include <algorithm>
 #include <array>
 #include <utility>
@@ -202,7 +200,7 @@ QByteArray scenarioBytes(const WorkingProfile& profile, const TargetArea& target
 void saveINIfile(const QString& path, const WorkingProfile& profile, const TargetArea& target,
                  QStringView forceALabel, const SaveProgress& advance)
 {
-    if (QFileInfo(path) == QFileInfo(profile.path())) {
+    if (profile.liesAt(path)) {
         throw RuntimeError(RuntimeError::PermissionDenied,
                            QStringLiteral("%1: the scenario under edit lies here.").arg(path));
     }

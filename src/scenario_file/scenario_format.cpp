@@ -68,6 +68,20 @@ constexpr std::array<FileKey, fileKeyCount> allKeys()
     return keys;
 }
 
+/// What files may hold in place of the code.
+struct AirControl
+{
+    QLatin1StringView name;
+    QLatin1StringView code;
+};
+constexpr std::array airControlCodes{
+    AirControl{QLatin1StringView{"None"}, QLatin1StringView{"2"}},
+    AirControl{QLatin1StringView{"Force A"}, QLatin1StringView{"3"}},
+    AirControl{QLatin1StringView{"Contested"}, QLatin1StringView{"4"}},
+    AirControl{QLatin1StringView{"Force B"}, QLatin1StringView{"5"}},
+    AirControl{QLatin1StringView{"INVALID"}, QLatin1StringView{"2"}},
+};
+
 } // namespace
 
 constexpr std::array<FileKey, fileKeyCount> fileKeys = allKeys();
@@ -104,6 +118,12 @@ QString spacingInYards(const QString& metres)
 {
     const auto* row = std::ranges::find(spacingTable, metres, &Spacing::metres);
     return row == spacingTable.end() ? metres : QString(row->yards);
+}
+
+QString airControlCode(const QString& stored)
+{
+    const auto* row = std::ranges::find(airControlCodes, stored, &AirControl::name);
+    return row == airControlCodes.end() ? stored : QString(row->code);
 }
 
 } // namespace torvane

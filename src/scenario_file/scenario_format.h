@@ -74,4 +74,8 @@ QString signTurned(QStringView number);
 QString spacingInMetres(const QString& yards);
 QString spacingInYards(const QString& metres);
 
+/// The code of an air superiority: that of one of its four names, or of the first where the text is
+/// "INVALID"; another text stays, codes included.
+QString airControlCode(const QString& stored);
+
 } // namespace torvane

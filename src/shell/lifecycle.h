@@ -21,33 +21,14 @@ struct Paths
     QString scenarioDir; ///< finished scenarios
 };
 
+/// The guide for authors, in the work folder.
+inline constexpr QLatin1StringView helpFileName{"SE_README.HLP"};
+
 /// The paths below a base path, which may be empty.
 Paths pathsBelow(const QString& basePath);
 
 /// The game's program in the game folder: its German or its English one.
 QString gameProgram(const QString& basePath, Language language);
-
-/// Key names that the file procedures take by slot. The last slot stays empty.
-inline constexpr std::array<QLatin1StringView, 20> keyTable{QLatin1StringView{"BLUE_TARGETBOX_X"},
-                                                            QLatin1StringView{"BLUE_TARGETBOX_Z"},
-                                                            QLatin1StringView{"BLUE_TARGETBOXDIM"},
-                                                            QLatin1StringView{"RED_TARGETBOX_X"},
-                                                            QLatin1StringView{"RED_TARGETBOX_Z"},
-                                                            QLatin1StringView{"BATTLETYPE"},
-                                                            QLatin1StringView{"TYPE"},
-                                                            QLatin1StringView{"NAME"},
-                                                            QLatin1StringView{"CLASS"},
-                                                            QLatin1StringView{"ZPOSITION"},
-                                                            QLatin1StringView{"DIVISIONNAME"},
-                                                            QLatin1StringView{"SIDE"},
-                                                            QLatin1StringView{"FORMATION"},
-                                                            QLatin1StringView{"FORMATIONHEADING"},
-                                                            QLatin1StringView{"FORMATIONSPACING"},
-                                                            QLatin1StringView{"SPEED"},
-                                                            QLatin1StringView{"SHIPCNT"},
-                                                            QLatin1StringView{"FLAGSHIPINDEX"},
-                                                            QLatin1StringView{"XPOSITION"},
-                                                            QLatin1StringView{""}};
 
 /// The date of this version, and its number and that of the scenario files it writes.
 inline constexpr QLatin1StringView versionText{"Version 1.02"};

@@ -10,7 +10,9 @@
 #include "shell/captions.h"
 #include "shell/commands.h"
 #include "shell/division_commands.h"
+#include "shell/edit_ship_commands.h"
 #include "shell/editor.h"
+#include "shell/load_commands.h"
 #include "shell/main_menu.h"
 #include "shell/new_scenario.h"
 #include "shell/save_commands.h"
@@ -75,6 +77,7 @@ void MainFrm::connectCommands()
         on(m_menu->action(QLatin1StringView(entry)), &QAction::triggered, handler);
     };
     command("mnuNew", [this] { newScenario(m_editor); });
+    command("mnuLoad", [this] { loadScenario(m_editor); });
     command("mnuSave", [this] { saveScenario(m_editor); });
     command("mnuSaveAs", [this] { saveScenarioAs(m_editor); });
     command("mnuOverView", [this] { showOverview(); });
@@ -85,9 +88,11 @@ void MainFrm::connectCommands()
     command("mnuHotText", [this] { toggleHelpTags(); });
     command("mnuAbout", [this] { showAbout(); });
     command("mnuHelpTopics", [this] {
-        m_editor.services().helpViewer.showContents(m_editor.paths().workDir +
-                                                    QStringLiteral("SE_README.HLP"));
+        m_editor.services().helpViewer.showContents(m_editor.paths().workDir + helpFileName);
     });
+    for (const QString& entry : editShipEntries()) {
+        on(m_menu->action(entry), &QAction::triggered, [this, entry] { editShip(m_editor, entry); });
+    }
 }
 
 void MainFrm::connectMap()
@@ -279,6 +284,7 @@ void MainFrm::unload()
 void MainFrm::killFiles()
 {
     m_editor.scratchFiles().killFiles();
+    m_editor.scratchFiles().killSurplusDivisions();
 }
 
 void MainFrm::emptyDBase()

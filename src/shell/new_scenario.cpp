@@ -34,7 +34,7 @@ static void restoreStartState(MainMenu& menu)
 static void dropProfile(Editor& editor)
 {
     try {
-        editor.profiles().remove(editor.workingProfile().path());
+        editor.workingProfile().remove();
     } catch (const RuntimeError&) {
         // The error that led here is the one that is shown.
     }

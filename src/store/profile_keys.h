@@ -144,4 +144,26 @@ inline constexpr std::array<QStringView, 77> shipKeys{u"NAME",
                                                       u"MAGBAP",
                                                       u"MAGBCOM"};
 
+/// Key names that the file procedures take by slot. The last slot stays empty.
+inline constexpr std::array<QStringView, 20> keyTable{u"BLUE_TARGETBOX_X",
+                                                      u"BLUE_TARGETBOX_Z",
+                                                      u"BLUE_TARGETBOXDIM",
+                                                      u"RED_TARGETBOX_X",
+                                                      u"RED_TARGETBOX_Z",
+                                                      u"BATTLETYPE",
+                                                      u"TYPE",
+                                                      u"NAME",
+                                                      u"CLASS",
+                                                      u"ZPOSITION",
+                                                      u"DIVISIONNAME",
+                                                      u"SIDE",
+                                                      u"FORMATION",
+                                                      u"FORMATIONHEADING",
+                                                      u"FORMATIONSPACING",
+                                                      u"SPEED",
+                                                      u"SHIPCNT",
+                                                      u"FLAGSHIPINDEX",
+                                                      u"XPOSITION",
+                                                      u""};
+
 } // namespace torvane

@@ -15,6 +15,8 @@ namespace {
 
 // Beyond the six divisions of a side; the clean-up has always gone this far.
 constexpr int killedDivisions = 8;
+// What a loaded scenario can have on one side.
+constexpr int mostDivisions = 12;
 
 constexpr QLatin1StringView shipTrackName{"ShipTrack.bmm"};
 constexpr QLatin1StringView workingProfileName{"iniTemp.bmm"};
@@ -147,7 +149,7 @@ QStringList ScratchFiles::read(const QString& path) const
 
 void ScratchFiles::write(const QString& path, const QStringList& values) const
 {
-    writeWholeFile(path, quotedLines(values));
+    writeScratchFile(path, quotedLines(values));
 }
 
 QStringList ScratchFiles::killList()
@@ -169,6 +171,16 @@ void ScratchFiles::killFiles()
 {
     for (const QString& name : killList()) {
         remove(name);
+    }
+}
+
+void ScratchFiles::killSurplusDivisions()
+{
+    for (const Side side : {Side::Blue, Side::Red}) {
+        for (int number = killedDivisions + 1; number <= mostDivisions; ++number) {
+            remove(divisionName(side, number));
+            remove(divDataName(side, number));
+        }
     }
 }
 

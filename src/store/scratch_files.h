@@ -46,6 +46,10 @@ public:
     /// at the first that can't be deleted.
     void killFiles();
 
+    /// Deletes the files of a ninth and further division of a side, which only a loaded scenario has. Throws
+    /// as `killFiles`.
+    void killSurplusDivisions();
+
     /// Deletes what only a run that was killed can have left: the copies of an edit in progress and
     /// half-written files. A file that can't be deleted stays.
     void removeLeftovers();

@@ -4,6 +4,7 @@
 #include "store/profile_keys.h"
 
 #include <QDir>
+#include <QFileInfo>
 
 #include <algorithm>
 
@@ -91,6 +92,12 @@ WorkingProfile::WorkingProfile(ProfileStore& store, const QString& workDir)
 {
 }
 
+bool WorkingProfile::liesAt(const QString& path) const
+{
+    // Two files that are not there count as the same.
+    return QFileInfo::exists(path) && QFileInfo(path) == QFileInfo(m_path);
+}
+
 QString WorkingProfile::GetIniKey(QStringView section, QStringView key) const
 {
     return torvane::GetIniKey(m_store, m_path, section, key);
@@ -103,7 +110,7 @@ bool WorkingProfile::write(QStringView section, QStringView key, QStringView val
 
 bool WorkingProfile::createNewIniTempFile()
 {
-    m_store.remove(m_path);
+    remove();
     return write(versionSection, versionKey, version);
 }
 

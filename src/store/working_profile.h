@@ -31,6 +31,8 @@ public:
     WorkingProfile(ProfileStore& store, const QString& workDir);
 
     const QString& path() const { return m_path; }
+    /// Whether a path, however it is spelled, leads to the profile's file, which is there.
+    bool liesAt(const QString& path) const;
 
     /// See the free function.
     QString GetIniKey(QStringView section, QStringView key) const;
@@ -40,6 +42,9 @@ public:
 
     /// Writes one key; the platform reports a failure.
     bool write(QStringView section, QStringView key, QStringView value);
+
+    /// Deletes the profile. Throws RuntimeError if it is there and can't be deleted.
+    void remove() { m_store.remove(m_path); }
 
     /// Deletes the profile and writes the version section. False if that write failed.
     bool createNewIniTempFile();

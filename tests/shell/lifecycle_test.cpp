@@ -1,6 +1,7 @@
 #include "shell/lifecycle.h"
 
 #include "platform/number_text.h"
+#include "store/profile_keys.h"
 #include "store/side.h"
 #include "support/printers.h"
 
@@ -78,7 +79,7 @@ TEST(KeyTable, HasNineteenNamesAndAnEmptySlot)
                                                "XPOSITION",
                                                ""};
     for (std::size_t slot = 0; slot < expected.size(); ++slot) {
-        EXPECT_EQ(QString(keyTable.at(slot)), QLatin1StringView(expected[slot])) << "slot " << slot;
+        EXPECT_EQ(keyTable.at(slot).toString(), QLatin1StringView(expected[slot])) << "slot " << slot;
     }
 }
 

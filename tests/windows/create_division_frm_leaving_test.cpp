@@ -52,6 +52,49 @@ TEST_F(DivisionLeaving, ASavedNewDivisionStandsInTheProfileWithItsShips)
     expectClosed();
 }
 
+TEST_F(DivisionLeaving, ADivisionOfShipsPickedInTheShipDialogIsMadeAndEdited)
+{
+    openScenario(Language::German);
+    const auto pickShip = [this](const char* name) {
+        auto* ships = control<QTableView>(editor().shipDBaseFrm(), QStringLiteral("Grid1"));
+        for (int row = 0; row < ships->model()->rowCount(); ++row) {
+            const QModelIndex index = ships->model()->index(row, 2);
+            if (index.data().toString() == QLatin1StringView(name)) {
+                ships->scrollTo(index);
+                QTest::mouseClick(ships->viewport(), Qt::LeftButton, {}, ships->visualRect(index).center());
+                settle();
+                return;
+            }
+        }
+        ADD_FAILURE() << name;
+    };
+    const auto keep = [this] {
+        click(control<QPushButton>(editor().shipDBaseFrm(), QStringLiteral("CmdKeepShips")));
+        EXPECT_EQ(editor().forms().front(), &dialog());
+    };
+    create(Side::Red); // of the Royal Navy, unless the overview says otherwise
+    click(push("CmdAdd"));
+    pickShip("Cossack");
+    pickShip("Hood");
+    keep();
+    EXPECT_EQ(cell(0, 0), QStringLiteral("DD Cossack"));
+    EXPECT_EQ(cell(1, 0), QStringLiteral("BB Hood"));
+    EXPECT_EQ(flagRows(), QList<int>{0});
+    EXPECT_EQ(caption("lblDivName"), QStringLiteral("Verband 1"));
+    save();
+    expectClosed();
+    EXPECT_EQ(key("DIVISION0SHIP1", "NAME"), QStringLiteral("Hood"));
+    edit(Side::Red, 1);
+    click(push("CmdAdd"));
+    pickShip("Maori");
+    keep();
+    EXPECT_EQ(caption("lblShips"), QStringLiteral("Schiffe: 3 von 10"));
+    save();
+    EXPECT_TRUE(boxes().isEmpty());
+    EXPECT_EQ(key("DIVISION0", "SHIPCNT"), QStringLiteral("3"));
+    EXPECT_EQ(key("DIVISION0SHIP2", "NAME"), QStringLiteral("Maori"));
+}
+
 TEST_F(DivisionLeaving, AGermanDivisionIsStoredInEnglish)
 {
     openScenario(Language::German);

@@ -107,7 +107,7 @@ protected:
         editor().scratchFiles().write(editor().scratchFiles().divisionFile(sideOfWord(vars.side), number),
                                       lines);
         records().writeDivData(vars);
-        dialog().showKeptShips(number, lines);
+        dialog().takeShips(lines, dialog().divisionCaption());
         closeShips();
     }
     void closeShips()

@@ -1,7 +1,10 @@
 #pragma once
 
 #include "divisions/create_division_frm.h"
+#include "map/grid_level_frm.h"
 #include "map/map_surface.h"
+#include "map/zoom_level_frm.h"
+#include "platform/option_button.h"
 #include "shell/about_frm.h"
 #include "shell/commands.h"
 #include "shell/main_frm.h"
@@ -19,11 +22,13 @@ namespace torvane::testing {
 class MapFixture : public EditorFixture
 {
 protected:
-    // The class that the ships of these tests belong to; 366 feet are 122 yards.
+    // The class that the ships of these tests belong to; 366 feet are 122 yards. Guns reach further than
+    // sight.
     void SetUp() override
     {
         CatalogueFile file(workFile(shipDatabaseFile));
         file.addClass(QStringLiteral("Tribal"), {{QStringLiteral("length"), QStringLiteral("366")}});
+        file.addGunRange(QStringLiteral("Tribal"), QStringLiteral("30650"));
     }
 
     MainFrm& main() { return editor().mainFrm(); }
@@ -46,6 +51,19 @@ protected:
     QString position(int n, int m)
     {
         return key(shipSection(n, m), "XPOSITION") + u',' + key(shipSection(n, m), "ZPOSITION");
+    }
+
+    void use(const char* tool) { click(control<QAbstractButton>(main(), QLatin1StringView(tool))); }
+    /// An option that is not on, picked in the dialog of its tool.
+    void chooseZoom(const char* option)
+    {
+        use("cmdZoomLevel");
+        click(control<OptionButton>(editor().zoomLevelFrm(), QLatin1StringView(option)));
+    }
+    void chooseGrid(const char* option)
+    {
+        use("cmdGridLevel");
+        click(control<OptionButton>(editor().gridLevelFrm(), QLatin1StringView(option)));
     }
 
     /// A division of destroyers in section n.

@@ -212,10 +212,9 @@ TEST_F(Placing, ACoarserLevelSnapsTheStoredTargetArea)
 {
     startPastSplash();
     armTargetArea();
-    clickMap({317, 208});         // 300 yards
-    main().map().setZoomIndex(1); // 240 yards a pixel
-    main().redrawMap();
-    movePointer({100, 100}); // takes the scale
+    clickMap({317, 208});        // 300 yards
+    chooseZoom("optZoomLevel1"); // 240 yards a pixel
+    movePointer({100, 100});     // takes the scale
     main().redrawMap();
     EXPECT_EQ(main().targetArea().x, 240);
 }
