@@ -228,7 +228,9 @@ void MapSurface::makeTools()
     m_tools->watch(m_rulerCaption, ToolRow::Place::Ruler);
     m_tools->watch(m_distance, ToolRow::Place::Ruler);
     m_tools->watch(m_scalePanel, ToolRow::Place::ScalePanel);
-    m_tools->leadTabThrough(m_map);
+    m_tools->leadTabThrough({m_map, m_horizontal, m_vertical});
+    // The keys that pick rings are typed on the map: it has the focus from the start.
+    m_map->setFocus();
 }
 
 void MapSurface::arrange(const MapLayout& layout)

@@ -79,15 +79,28 @@ void ToolRow::watch(QWidget* control, Place place)
 {
     m_places[control] = place;
     listenTo(control);
+    if (place == Place::ScalePanel) {
+        // What stands on the panel lets the pointer's moves through to it.
+        for (QWidget* readOut : control->findChildren<QWidget*>()) {
+            readOut->setMouseTracking(true);
+        }
+    }
 }
 
-void ToolRow::leadTabThrough(QWidget* map)
+void ToolRow::leadTabThrough(std::initializer_list<QWidget*> between)
 {
+    QWidget* before = m_tools.front();
+    const auto follow = [&before](QWidget* next) {
+        QWidget::setTabOrder(before, next);
+        before = next;
+    };
     for (std::size_t index = 1; index < corner; ++index) {
-        QWidget::setTabOrder(m_tools.at(index - 1), m_tools.at(index));
+        follow(m_tools.at(index));
     }
-    QWidget::setTabOrder(m_tools.at(corner - 1), map);
-    QWidget::setTabOrder(map, m_tools.at(corner));
+    for (QWidget* control : between) {
+        follow(control);
+    }
+    follow(m_tools.at(corner));
 }
 
 void ToolRow::placeCorner(QPoint tool, int size, QPoint tag)

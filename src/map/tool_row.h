@@ -6,6 +6,7 @@
 #include <QPoint>
 
 #include <array>
+#include <initializer_list>
 #include <map>
 
 class QLabel;
@@ -33,10 +34,10 @@ public:
     /// Makes tools and tags, which belong to `surface`.
     explicit ToolRow(QWidget* surface);
 
-    /// Listens to the pointer over a control.
+    /// Listens to the pointer over a control, and over what it holds by now.
     void watch(QWidget* control, Place place);
-    /// Puts the keyboard's way through the row, then the map, then the corner.
-    void leadTabThrough(QWidget* map);
+    /// Leads the keyboard through the row, then the controls between, then to the corner.
+    void leadTabThrough(std::initializer_list<QWidget*> between);
     /// Places the corner's tool and its tag, which gives way to the left where its text needs more room.
     void placeCorner(QPoint tool, int size, QPoint tag);
 

@@ -43,10 +43,10 @@ std::vector<double> crossings(QPointF centre, double radius, const QRectF& area)
 Curve arc(QPointF centre, double radius, double from, double to)
 {
     const double longestStep = std::sqrt(8 * tolerance / radius);
-    const double steps = std::max(1.0, std::ceil((to - from) / longestStep));
+    const int steps = std::max(1, static_cast<int>(std::ceil((to - from) / longestStep)));
     Curve points;
     points.reserve(static_cast<std::size_t>(steps) + 1);
-    for (double step = 0; step <= steps; ++step) {
+    for (int step = 0; step <= steps; ++step) {
         points.push_back(pointAt(centre, radius, from + (to - from) * step / steps));
     }
     return points;

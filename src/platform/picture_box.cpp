@@ -196,8 +196,8 @@ void PictureBox::print(const QString& text)
     const QPoint at = m_current;
     m_current = QPoint(0, static_cast<int>(std::min<qint64>(qint64{at.y()} + lineHeight, INT_MAX)));
     // A glyph may reach a little out of its line's box.
-    const QRectF area = QRectF({}, m_image.deviceIndependentSize())
-                            .adjusted(0, -2.0 * lineHeight, lineHeight, lineHeight);
+    const QRectF area =
+        QRectF({}, m_image.deviceIndependentSize()).adjusted(0, -2.0 * lineHeight, lineHeight, lineHeight);
     if (at.y() < area.top() || at.y() > area.bottom() || at.x() > area.right()) {
         return;
     }

@@ -16,6 +16,7 @@ public:
     enum Number {
         InvalidProcedureCall = 5,
         Overflow = 6,
+        OutOfMemory = 7,
         SubscriptOutOfRange = 9,
         TypeMismatch = 13,
         FileNotFound = 53,

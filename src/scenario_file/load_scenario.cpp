@@ -8,6 +8,7 @@
 #include "store/profile_keys.h"
 #include "store/working_profile.h"
 
+#include <new>
 #include <span>
 
 namespace torvane {
@@ -135,7 +136,12 @@ Profile readScenario(const QString& path, const WorkingProfile& profile)
         throw RuntimeError(RuntimeError::PermissionDenied,
                            QStringLiteral("%1: the scenario under edit lies here.").arg(path));
     }
-    return Profile::parse(readWholeFile(path));
+    try {
+        return Profile::parse(readWholeFile(path));
+    } catch (const std::bad_alloc&) {
+        throw RuntimeError(RuntimeError::OutOfMemory,
+                           QStringLiteral("%1: there is not enough memory for this file.").arg(path));
+    }
 }
 
 void loadProfileFromScenario(const Profile& file, WorkingProfile& profile, const LoadProgress& advance)

@@ -119,10 +119,9 @@ void loadScenario(Editor& editor)
     std::optional<Profile> file;
     try {
         file = readScenario(*scenarioFilePath, editor.workingProfile());
-    } catch (const RuntimeError& error) {
+    } catch (const RuntimeError&) {
         takeErrorRoad(editor);
-        editor.report(error);
-        return;
+        throw; // shown, with the name of the file
     }
     try {
         rebuildFrom(*file, editor);

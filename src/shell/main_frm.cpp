@@ -87,9 +87,8 @@ void MainFrm::connectCommands()
     command("mnuExit", [this] { unload(); });
     command("mnuHotText", [this] { toggleHelpTags(); });
     command("mnuAbout", [this] { showAbout(); });
-    command("mnuHelpTopics", [this] {
-        m_editor.services().helpViewer.showContents(m_editor.paths().workDir + helpFileName);
-    });
+    command("mnuHelpTopics",
+            [this] { m_editor.services().helpViewer.showContents(m_editor.paths().workDir + helpFileName); });
     for (const QString& entry : editShipEntries()) {
         on(m_menu->action(entry), &QAction::triggered, [this, entry] { editShip(m_editor, entry); });
     }

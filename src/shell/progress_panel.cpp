@@ -12,6 +12,7 @@ constexpr int progressEnd = 10000;
 constexpr int progressStep = 10;
 constexpr QSize panelSize(300, 48);
 constexpr int barHeight = 18;
+constexpr int paintInterval = 40; // milliseconds
 
 } // namespace
 
@@ -42,6 +43,10 @@ void ProgressPanel::show(const QString& text, const QRect& area)
     m_prgbarLoad->raise();
     // The work that follows runs in one event: without this the panel would never be seen.
     m_picLoad->repaint();
+    m_prgbarLoad->repaint();
+    // A bar paints itself at each step, which would take longer than the work.
+    m_prgbarLoad->setUpdatesEnabled(false);
+    m_sincePainted.start();
 }
 
 void ProgressPanel::advanceProgress()
@@ -49,17 +54,20 @@ void ProgressPanel::advanceProgress()
     if (m_prgbarLoad->value() + progressStep <= m_prgbarLoad->maximum()) {
         m_prgbarLoad->setValue(m_prgbarLoad->value() + progressStep);
     }
+    if (m_prgbarLoad->isVisible() && m_sincePainted.elapsed() >= paintInterval) {
+        m_prgbarLoad->setUpdatesEnabled(true);
+        m_prgbarLoad->repaint();
+        m_prgbarLoad->setUpdatesEnabled(false);
+        m_sincePainted.start();
+    }
 }
 
 void ProgressPanel::fillProgress()
 {
     if (m_prgbarLoad->value() < m_prgbarLoad->maximum() - progressStep) {
-        // The work is done: painting each step would take longer than it did.
-        m_prgbarLoad->setUpdatesEnabled(false);
         while (m_prgbarLoad->value() < m_prgbarLoad->maximum()) {
             advanceProgress();
         }
-        m_prgbarLoad->setUpdatesEnabled(true);
     }
 }
 
@@ -68,6 +76,7 @@ void ProgressPanel::hide()
     m_picLoad->hide();
     m_picLoad->clear();
     m_prgbarLoad->hide();
+    m_prgbarLoad->setUpdatesEnabled(true);
 }
 
 } // namespace torvane

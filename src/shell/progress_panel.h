@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QElapsedTimer>
 #include <QRect>
 #include <QString>
 
@@ -20,7 +21,7 @@ public:
 
     /// Shows both in the middle of `area`, in pixels of the parent, with the bar at 0.
     void show(const QString& text, const QRect& area);
-    /// One step of 10, unless it would lead beyond the end.
+    /// One step of 10, unless it would lead beyond the end. The bar is painted from time to time.
     void advanceProgress();
     /// In steps to the end; a bar that stands within 10 of it stays there.
     void fillProgress();
@@ -29,6 +30,7 @@ public:
 private:
     PictureBox* m_picLoad;
     QProgressBar* m_prgbarLoad;
+    QElapsedTimer m_sincePainted; ///< while the bar is shown
 };
 
 } // namespace torvane

@@ -84,7 +84,7 @@ void ShipDBaseFrm::applyCaptions(Language language)
     applyCaptionTable(*this, shipCaptions, language);
     applyControlTips(*this, shipTips, language);
     m_model->setLanguage(language);
-    m_ui->Grid1->setAccessibleName(captionOf(shipCaptions, u"Frame2", language));
+    m_ui->Grid1->setAccessibleName(shipText(ShipText::GridName, language));
     m_ui->LstDivision->setAccessibleName(mainText(MainText::Division, language));
 }
 
@@ -122,9 +122,9 @@ void ShipDBaseFrm::openDivision()
 {
     const HourglassPointer hourglass;
     const CreateDivisionFrm& dialog = m_editor.createDivisionFrm();
-    m_selection.open(sideOfLabel(dialog.lblside->text()), dialog.divisionCaption(),
+    m_selection.open(sideOfLabel(dialog.lblside->text()), dialog.divisionLabel(),
                      mainText(MainText::Division, m_editor.language()));
-    m_ui->fraDivision->setTitle(dialog.divisionCaption());
+    m_ui->fraDivision->setTitle(dialog.divisionLabel());
     showSelection();
     selectForceNavy();
     markSelectedShips();
@@ -271,8 +271,7 @@ void ShipDBaseFrm::keep()
          .heading = fields.heading,
          .spacing = fields.spacing,
          .speed = fields.speed});
-    dialog.takeShips(m_selection.entries(),
-                     mainText(MainText::Division, m_editor.language()) + QLatin1Char(' ') + number);
+    dialog.showKeptShips(m_selection.divisionNumber(), m_selection.entries());
     leave();
     // What is kept must not be cleared by a close box that comes before the next opening has read its list.
     m_selection.close();

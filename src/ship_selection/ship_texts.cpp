@@ -94,7 +94,7 @@ const SelectionMessageRow& selectionMessage(SelectionMessage message)
     return selectionMessages.at(static_cast<std::size_t>(message));
 }
 
-constexpr std::array<TextRow<ShipText>, 10> shipTexts{{
+constexpr std::array<TextRow<ShipText>, 11> shipTexts{{
     {ShipText::SortOff, {"Sort OFF", "Sortierung AUS"}},
     {ShipText::SortOn, {"Sort ON", "Sortierung EIN"}},
     {ShipText::SearchPrompt,
@@ -108,6 +108,7 @@ constexpr std::array<TextRow<ShipText>, 10> shipTexts{{
     {ShipText::ForceACount, {"Force A: %1 of %2 ships", "Streitkraft A: %1 von %2 Schiffen"}},
     {ShipText::ForceBCount, {"Force B: %1 of %2 ships", "Streitkraft B: %1 von %2 Schiffen"}},
     {ShipText::ScenarioCount, {"Scenario: %1 of %2 ships", "Szenario: %1 von %2 Schiffen"}},
+    {ShipText::GridName, {"Ships", "Schiffe"}},
 }};
 
 QString shipText(ShipText text, Language language)

@@ -33,9 +33,10 @@ enum class ShipText {
     ForceACount,
     ForceBCount,
     ScenarioCount,
+    GridName, ///< what assistive tools call the grid
 };
 /// One row a text, in the order of `ShipText`.
-extern const std::array<TextRow<ShipText>, 10> shipTexts;
+extern const std::array<TextRow<ShipText>, 11> shipTexts;
 QString shipText(ShipText text, Language language);
 
 } // namespace torvane

@@ -26,7 +26,7 @@ struct Place
 constexpr std::array<Place, secondaryGuns.size()> places{{{0, 0, 2}, {2, 1, 1}, {3, 1, 3}, {1, 2, 2}}};
 constexpr int centreLine = 2;
 constexpr int outboard[] = {0, 4}; // columns left and right of the ship
-constexpr int deckWidth = 170;
+constexpr int deckWidth = 210;
 constexpr std::size_t secondaryMagazine = 2;
 
 } // namespace

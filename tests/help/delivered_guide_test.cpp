@@ -1,6 +1,8 @@
 #include "guide/check_guide.h"
 #include "guide/write_guide.h"
 #include "map/map_geometry.h"
+#include "map/range_rings.h"
+#include "map/view_tools.h"
 #include "overview/environment_rules.h"
 #include "overview/missions.h"
 #include "overview/overview_texts.h"
@@ -9,6 +11,7 @@
 #include "shell/commands.h"
 #include "shell/help_book.h"
 #include "shell/help_texts.h"
+#include "ship_selection/ship_texts.h"
 #include "support/printers.h"
 
 #include <QRegularExpression>
@@ -168,13 +171,13 @@ TEST(DeliveredGuide, ExplainsWhatTheMainWindowSays)
                                        MainText::HelpTagsOn, MainText::HelpTagsOff, MainText::RulerCaption}) {
             expectExplained(mainText(message, language), language, text);
         }
-        for (const HelpTagRow& tag : helpTags) {
-            expectExplained(tag.in(language).string(), language, text);
+        for (const ViewTool& tool : viewTools) {
+            expectExplained(tool.tagText(language).string(), language, text);
         }
     }
 }
 
-TEST(DeliveredGuide, ExplainsEveryMessageOfDivisionsAndShips)
+TEST(DeliveredGuide, ExplainsEveryMessageOfTheDivisionDialog)
 {
     const Bilingual messages[] = {
         {"You may only have a maximum of 6 divisions per side.",
@@ -182,30 +185,26 @@ TEST(DeliveredGuide, ExplainsEveryMessageOfDivisionsAndShips)
         {"You must enter a heading between 0 and 360 degrees.",
          "Sie müssen einen Wert zwischen 0 und 360 eingeben."},
         {"Out of Range", "Außer Reichweite"},
-        {"You may only have a maximum of 10 ships per division.",
-         "Ein Verband kann maximal über 10 Schiffe verfügen."},
-        {"You may only have a maximum of 28 ships per Force.",
-         "Eine Streitkraft kann maximal über 28 Schiffe verfügen."},
-        {"A scenario may only have a maximum of 32 ships.",
-         "Ein Szenario kann maximal 32 Schiffe enthalten."},
-        {"Limit Reached", "Limit erreicht."},
-        {"The Transporting Force in a TACTICAL TRANSPORT scenario may only have type DD ships.",
-         "Taktische Transportszenarios können nur Zerstörer enthalten."},
-        {"Ship Class Error", "Fehler: Schiffsklasse."},
-        {"You have already selected this ship.", "Sie haben dieses Schiff bereits ausgewählt."},
-        {"There are no ships to be saved.", "Kein Schiff vorhanden."},
-        {"Please select a ship to remove.", "Bitte wählen Sie ein Schiff aus das gelöscht werden soll."},
-        {"There are no more ships to remove.", "Keine weiteren Schiffe löschbar."},
-        {"Please enter the name of the ship you wish to find.", "Bitte Schiffsnamen Eingeben."},
-        {"The ship you have selected does not appear in the data base.  Please check the spelling:",
-         "Das von Ihnen eingegebene Schiff kann nicht gefunden werden. Bitte überprüfen Sie die "
-         "Schreibweise:"},
-        {"Ship Not Found", "Schiff nicht gefunden."},
     };
     for (const Language language : bothLanguages) {
         const QString text = wholeText(language);
         for (const Bilingual& message : messages) {
             expectExplained(message.in(language), language, text);
+        }
+    }
+}
+
+TEST(DeliveredGuide, ExplainsEveryMessageOfTheShipDialog)
+{
+    for (const Language language : bothLanguages) {
+        const QString text = plainText(chapterHtml(QStringLiteral("messages"), language));
+        for (const SelectionMessageRow& row : selectionMessages) {
+            expectExplained(row.text.in(language), language, text);
+            expectExplained(row.title.in(language), language, text);
+        }
+        for (const ShipText search :
+             {ShipText::SearchPrompt, ShipText::SearchTitle, ShipText::NotFound, ShipText::NotFoundTitle}) {
+            expectExplained(shipText(search, language), language, text);
         }
     }
 }
@@ -290,6 +289,35 @@ TEST(DeliveredGuide, TellsTheWindOfEverySeaState)
         }
         EXPECT_EQ(rows[0].mid(1), expected);
     }
+}
+
+/// The three rings of a table, as the guide shows them: to each target, by battleship, cruiser and destroyer.
+void expectReach(const RangeTable& table, const QString& section)
+{
+    for (const Language language : bothLanguages) {
+        const QList<QStringList> rows = tableRows(QStringLiteral("rings"), section, language);
+        ASSERT_EQ(rows.size(), static_cast<qsizetype>(ringClasses.size()));
+        for (std::size_t i = 0; i < ringClasses.size(); ++i) {
+            const QStringList& row = rows[static_cast<qsizetype>(i)];
+            EXPECT_TRUE(row[0].contains(ringClasses[i].label)) << row[0].toStdString();
+            QStringList expected;
+            for (const char* type : {"BB", "CA", "DD"}) {
+                expected.append(QString::number(
+                    rangeOf(table, typeIndex(QString::fromLatin1(type)), ringClasses[i].number)));
+            }
+            EXPECT_EQ(row.mid(1), expected);
+        }
+    }
+}
+
+TEST(DeliveredGuide, TellsHowFarShipsSee)
+{
+    expectReach(visibilityRangeTable, QStringLiteral("visibility"));
+}
+
+TEST(DeliveredGuide, TellsHowFarRadarReaches)
+{
+    expectReach(radarRangeTable, QStringLiteral("radar"));
 }
 
 TEST(DeliveredGuide, SpeaksToAuthorsAndNotOfTheProgramsInside)

@@ -65,6 +65,9 @@ class ReadWholeFile : public TextFiles
 class WriteWholeFile : public TextFiles
 {
 };
+class WriteScratchFile : public TextFiles
+{
+};
 class DeleteFile : public TextFiles
 {
 };
@@ -237,6 +240,51 @@ TEST_F(WriteWholeFile, AZeroByteInThePathNamesNoOtherFile)
     put("file", "old");
     EXPECT_THROW(writeWholeFile(path("file") + QChar::Null + "tail", "new"), RuntimeError);
     EXPECT_EQ(bytesOf("file"), "old");
+}
+
+TEST_F(WriteScratchFile, PutsEveryByteInPlaceOfAnOldFile)
+{
+    put("Größe.txt", QByteArray(5000, 'x'));
+    const QByteArray bytes("a\n\0\r\x1A\xFF", 6);
+    writeScratchFile(path("Größe.txt"), bytes);
+    writeScratchFile(path("new"), {});
+    EXPECT_EQ(bytesOf("Größe.txt"), bytes);
+    EXPECT_EQ(bytesOf("new"), QByteArray());
+    EXPECT_EQ(names(), (QStringList{"Größe.txt", "new"}));
+}
+
+TEST_F(WriteScratchFile, OnAFullDiskLeavesTheOldFileAlone)
+{
+    put("file", "old");
+    {
+        const testing::FullDisk full(10);
+        expectError([this] { writeScratchFile(path("file"), QByteArray(100, 'x')); }, RuntimeError::DiskFull,
+                    path("file"));
+    }
+    EXPECT_EQ(bytesOf("file"), "old");
+    EXPECT_EQ(names(), QStringList("file"));
+}
+
+TEST_F(WriteScratchFile, OverAFolderOrInAMissingOneIsAnError)
+{
+    QDir(folder()).mkdir("sub");
+    expectError([this] { writeScratchFile(path("sub"), "x"); }, RuntimeError::PathAccessError, path("sub"));
+    expectError([this] { writeScratchFile(path("none/file"), "x"); }, RuntimeError::PathNotFound,
+                path("none/file"));
+    EXPECT_EQ(names(), QStringList("sub"));
+}
+
+TEST_F(WriteScratchFile, InAReadOnlyFolderIsPermissionDenied)
+{
+    const testing::ReadOnlyFolder readOnly(folder());
+    expectError([this] { writeScratchFile(path("file"), "x"); }, RuntimeError::PermissionDenied,
+                path("file"));
+}
+
+TEST_F(WriteScratchFile, AZeroByteInThePathNamesNoOtherFile)
+{
+    EXPECT_THROW(writeScratchFile(path("file") + QChar::Null + "tail", "x"), RuntimeError);
+    EXPECT_EQ(names(), QStringList());
 }
 
 TEST_F(DeleteFile, DeletesTheFileAndNothingElse)

@@ -4,6 +4,7 @@
 #include "support/expect_error.h"
 
 #include <string>
+#include <sys/resource.h>
 
 namespace torvane::testing {
 namespace {
@@ -223,6 +224,23 @@ TEST_F(OddFile, WithHugeNumbersElsewhereIsRead)
     EXPECT_TRUE(oddProfile().contains("\r\nRED_TARGETBOX_Z=-1E+300\r\n"));
     EXPECT_TRUE(oddProfile().contains("\r\nXPOSITION=1E999\r\n"));
     EXPECT_TRUE(oddProfile().contains("\r\nZPOSITION=-1E+300\r\n"));
+}
+
+TEST_F(OddFile, BeyondAllMemoryIsRefusedWithItsName)
+{
+#ifdef __SANITIZE_ADDRESS__
+    GTEST_SKIP() << "the sanitizer needs the memory that this test takes away";
+#endif
+    const QString path = scenario("large.scn");
+    writeScratchFile(path, "");
+    constexpr qint64 size = 4'000'000'000; // of which the disk holds nothing
+    ASSERT_TRUE(QFile::resize(path, size));
+    rlimit limit{};
+    ::getrlimit(RLIMIT_AS, &limit);
+    const rlimit lower{500'000'000, limit.rlim_max};
+    ASSERT_EQ(::setrlimit(RLIMIT_AS, &lower), 0);
+    expectError(RuntimeError::OutOfMemory, [&] { readScenario(path, profile); });
+    ::setrlimit(RLIMIT_AS, &limit);
 }
 
 TEST_F(OddFile, ThatIsNoFileIsRefusedWithItsName)

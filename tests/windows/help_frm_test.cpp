@@ -89,6 +89,17 @@ TEST_P(Help, OpensAtItsFirstPageInTheLanguage)
     EXPECT_TRUE(boxes.shown.isEmpty());
 }
 
+TEST_P(Help, TheGuideHasTheRoom)
+{
+    open();
+    for (const QSize& size : {QSize(960, 680), QSize(700, 1000)}) {
+        window().resize(size);
+        settle();
+        EXPECT_GT(guide().height(), window().height() - 80);
+        EXPECT_EQ(contents().height(), guide().height());
+    }
+}
+
 TEST_P(Help, CaptionsSpeakTheLanguage)
 {
     open();

@@ -1,5 +1,5 @@
 #include "platform/picture_box.h"
-#include "ship_dialog_fixture.h"
+#include "ship_selection_fixture.h"
 
 #include <QHeaderView>
 #include <QScrollBar>
@@ -8,7 +8,7 @@ namespace torvane::testing {
 namespace {
 
 /// The left part of the ship dialog: filter, sort, search and marks.
-class ShipBrowserWindow : public ShipDialog
+class ShipBrowserWindow : public ShipSelectionDialog
 {
 protected:
     void expectSortOptions(bool enabled)

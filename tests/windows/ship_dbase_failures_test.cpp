@@ -1,4 +1,4 @@
-#include "ship_dialog_fixture.h"
+#include "ship_selection_fixture.h"
 #include "support/failing_system.h"
 
 #include <QDir>
@@ -8,7 +8,7 @@ namespace {
 
 /// What the ship dialog does with a catalogue or scratch files that are not what they should be, and when it
 /// is closed at a bad moment.
-class ShipFailures : public ShipDialog
+class ShipFailures : public ShipSelectionDialog
 {
 protected:
     void openOver(const std::function<void()>& catalogue)

@@ -1,4 +1,4 @@
-#include "ship_dialog_fixture.h"
+#include "ship_selection_fixture.h"
 
 #include <QAbstractItemView>
 #include <QComboBox>
@@ -7,7 +7,7 @@ namespace torvane::testing {
 namespace {
 
 /// The right part of the ship dialog: picks, removals, and the ways out.
-class ShipWindow : public ShipDialog
+class ShipWindow : public ShipSelectionDialog
 {
 protected:
     QString gridCell(int row, int column)
@@ -76,6 +76,15 @@ TEST_F(ShipWindow, TheOtherMouseButtonsPickNothing)
     QTest::mouseClick(grid()->viewport(), Qt::MiddleButton, {}, placeOf("Ardent"));
     settle();
     EXPECT_EQ(listed(), QStringList());
+}
+
+TEST_F(ShipWindow, ADoubleClickPicksOnce)
+{
+    openShips();
+    QTest::mouseDClick(grid()->viewport(), Qt::LeftButton, {}, placeOf("Ardent"));
+    settle();
+    EXPECT_EQ(listed(), QStringList("DD Ardent"));
+    EXPECT_TRUE(boxes().isEmpty());
 }
 
 TEST_F(ShipWindow, FortyQuickClicksOnARowPickOneShip)

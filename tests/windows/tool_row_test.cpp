@@ -39,7 +39,7 @@ protected:
         row.watch(&map, ToolRow::Place::Map);
         row.watch(&ruler, ToolRow::Place::Ruler);
         row.watch(&panel, ToolRow::Place::ScalePanel);
-        row.leadTabThrough(&map);
+        row.leadTabThrough({&map});
         row.placeCorner({624, 464}, 18, {560, 464});
         row.setCaptions(Language::English);
         surface.show();

@@ -71,6 +71,14 @@ TEST_F(Tools, StandInTheirPlaces)
     EXPECT_EQ(control<QLabel>(main(), QStringLiteral("lblDistance"))->pos(), QPoint(328, 24));
 }
 
+TEST_F(Tools, LeaveTheFocusOnTheMapFromTheStart)
+{
+    startPastSplash();
+    EXPECT_EQ(main().focusWidget(), map());
+    use("cmdVisibCircles");
+    EXPECT_EQ(main().focusWidget(), map());
+}
+
 TEST_F(Tools, TheNamesComeBackAfterFourClicks)
 {
     startPastSplash();

@@ -12,7 +12,7 @@
 namespace torvane::testing {
 
 /// A run with a scenario just made and a ship dialog over a small catalogue, worked as a user works it.
-class ShipDialog : public Dialogs
+class ShipSelectionDialog : public Dialogs
 {
 protected:
     struct Ship
