@@ -122,9 +122,9 @@ void ShipDBaseFrm::openDivision()
 {
     const HourglassPointer hourglass;
     const CreateDivisionFrm& dialog = m_editor.createDivisionFrm();
-    m_selection.open(sideOfLabel(dialog.lblside->text()), dialog.divisionLabel(),
+    m_selection.open(sideOfLabel(dialog.lblside->text()), dialog.divisionCaption(),
                      mainText(MainText::Division, m_editor.language()));
-    m_ui->fraDivision->setTitle(dialog.divisionLabel());
+    m_ui->fraDivision->setTitle(dialog.divisionCaption());
     showSelection();
     selectForceNavy();
     markSelectedShips();
@@ -271,7 +271,8 @@ void ShipDBaseFrm::keep()
          .heading = fields.heading,
          .spacing = fields.spacing,
          .speed = fields.speed});
-    dialog.showKeptShips(m_selection.divisionNumber(), m_selection.entries());
+    dialog.takeShips(m_selection.entries(),
+                     mainText(MainText::Division, m_editor.language()) + QLatin1Char(' ') + number);
     leave();
     // What is kept must not be cleared by a close box that comes before the next opening has read its list.
     m_selection.close();

@@ -272,6 +272,9 @@ std::unique_ptr<QProcess> GameFolder::start(const QString& program, const Deskto
     environment.insert(QStringLiteral("DISPLAY"), desktop.display());
     environment.remove(QStringLiteral("WAYLAND_DISPLAY"));
     environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("xcb"));
+    if (!environment.contains(QStringLiteral("XDG_RUNTIME_DIR"))) {
+        environment.insert(QStringLiteral("XDG_RUNTIME_DIR"), path()); // else the platform would complain
+    }
 #ifdef TORVANE_LEAKS
     // A program under the leak sanitizer answers for its own leaks alone.
     environment.insert(QStringLiteral("LSAN_OPTIONS"),
