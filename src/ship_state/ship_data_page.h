@@ -4,6 +4,7 @@
 #include "ship_state/ship_condition.h"
 #include "ship_state/ship_data_texts.h"
 
+#include <QColor>
 #include <QGroupBox>
 
 #include <functional>

@@ -38,7 +38,6 @@ protected:
 
 TEST_F(BadShipData, WordsNumbersAndGapsInEveryKeyAreShownAndSavedWithoutABox)
 {
-    const QString longText(369, u'W');
     for (const char* value : {"", "-17", "some words", "<b>bold</b>", "1E+12", "0.5", "99999999999"}) {
         startPastSplash(Language::English);
         putShip(u"Exeter"_s);
