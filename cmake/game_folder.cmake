@@ -23,9 +23,17 @@ function(torvane_stage_game_folder)
             "${catalogue_files}/ships.csv" "${catalogue_files}/classes.csv" "${catalogue_files}/gun_ranges.csv"
         COMMENT "Staging ShipDatabase.mdb"
         VERBATIM)
-    add_custom_target(game ALL DEPENDS "${tables}" "${catalogue}")
+    set(help "${TORVANE_GAME_DIR}/ScenarioEditor/SE_README.HLP")
+    file(GLOB_RECURSE help_files CONFIGURE_DEPENDS "${CMAKE_SOURCE_DIR}/data/help/*")
+    add_custom_command(OUTPUT "${help}"
+        COMMAND ${CMAKE_COMMAND} -E make_directory "${TORVANE_GAME_DIR}/ScenarioEditor"
+        COMMAND make_help "${CMAKE_SOURCE_DIR}/data/help" "${help}"
+        DEPENDS make_help ${help_files}
+        COMMENT "Staging SE_README.HLP"
+        VERBATIM)
+    add_custom_target(game ALL DEPENDS "${tables}" "${catalogue}" "${help}")
     add_dependencies(game TorvaneScenarioEditor TorvaneScenarioEditor-English)
     install(TARGETS TorvaneScenarioEditor TorvaneScenarioEditor-English RUNTIME DESTINATION .)
-    install(FILES "${tables}" "${catalogue}" DESTINATION ScenarioEditor)
+    install(FILES "${tables}" "${catalogue}" "${help}" DESTINATION ScenarioEditor)
     install(DIRECTORY DESTINATION Scenarios)
 endfunction()

@@ -52,6 +52,19 @@ std::optional<std::int16_t> gridIndexOf(QStringView option)
     return static_cast<std::int16_t>(found - gridOptions.begin());
 }
 
+QLatin1StringView zoomOption(int zoomIndex)
+{
+    return QLatin1StringView(levelAt(zoomIndex).option);
+}
+
+QLatin1StringView gridOption(int gridIndex)
+{
+    if (gridIndex < 0 || gridIndex >= static_cast<int>(gridOptions.size())) {
+        throw outOfRange(QStringLiteral("grid size"), gridIndex);
+    }
+    return QLatin1StringView(gridOptions.at(static_cast<std::size_t>(gridIndex)));
+}
+
 std::int16_t mapScale(int zoomIndex, bool day)
 {
     const ZoomLevel& level = levelAt(zoomIndex);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QLatin1StringView>
 #include <QStringView>
 
 #include <array>
@@ -79,6 +80,9 @@ inline constexpr std::array<const char*, 4> gridOptions{"optOff", "optLevel1", "
 /// button.
 std::optional<std::int16_t> zoomIndexOf(QStringView option);
 std::optional<std::int16_t> gridIndexOf(QStringView option);
+/// The button that stands for a `zoomIndex` or `gridIndex`. Throw SubscriptOutOfRange for another index.
+QLatin1StringView zoomOption(int zoomIndex);
+QLatin1StringView gridOption(int gridIndex);
 
 /// Yards per pixel. Throws SubscriptOutOfRange for a `zoomIndex` outside 1 to 11.
 std::int16_t mapScale(int zoomIndex, bool day);

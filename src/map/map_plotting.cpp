@@ -16,11 +16,6 @@ constexpr int separationYards = 1000;
 constexpr int shipsRinged = 10; // of a division, whatever it counts
 constexpr int darkEvery = 5;    // the counter's value at a dark grid line
 
-MapColour colourOf(Side side)
-{
-    return side == Side::Blue ? mapColours::forceA : mapColours::forceB;
-}
-
 PixelPoint moved(PixelPoint point, std::int32_t x, std::int32_t y)
 {
     return {.x = point.x + x, .y = point.y + y};

@@ -52,6 +52,8 @@ struct MapState
     /// Yards of the ship to be drawn, then its pixels; it outlasts the ship. A class that the catalogue lacks
     /// takes the pixels of the ship before as its yards. Kept.
     std::int32_t shipLengthYards = 0;
+    /// Likewise yards of a ship's guns, then the pixels of their ring.
+    std::int32_t gunRangeValue = 0;
 
     bool operator==(const MapState&) const = default;
 };
@@ -94,6 +96,12 @@ struct MapPicture
 
 /// Adds the rings of a ship to the marks.
 using RingDrawer = std::function<void(const PlottedShip&, MarkList&)>;
+
+/// The plain colour of a side, in which its texts and gun rings are drawn.
+constexpr MapColour colourOf(Side side)
+{
+    return side == Side::Blue ? mapColours::forceA : mapColours::forceB;
+}
 
 /// Grid lines, and with labels their texts and white scale bars. `gridIndex` of the view is not 0. The grid
 /// hangs on the view's top left corner, not on the world.

@@ -1,9 +1,12 @@
 #include "map/map_surface.h"
 
+#include "map/tool_row.h"
+
 #include <QCoreApplication>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMouseEvent>
+#include <QPushButton>
 #include <QStyle>
 #include <QWheelEvent>
 
@@ -15,10 +18,10 @@ constexpr int scrollBarSize = 18;
 constexpr int mapFontPixels = 11;
 constexpr int rulerLeft = 320;
 // The read-outs: two rows of number, "X", number.
-constexpr QRect scalePanel(424, 4, 219, 40);
-constexpr QRect leftColumn(0, 2, 100, 17);
-constexpr QRect middleColumn(100, 2, 15, 17);
-constexpr QRect rightColumn(115, 2, 102, 17);
+constexpr QRect scalePanel(434, 4, 208, 40);
+constexpr QRect leftColumn(0, 2, 96, 17);
+constexpr QRect middleColumn(96, 2, 14, 17);
+constexpr QRect rightColumn(110, 2, 96, 17);
 constexpr int rowHeight = 18;
 
 QRect lowerRow(QRect place)
@@ -138,6 +141,18 @@ MapScrollBar::MapScrollBar(Qt::Orientation orientation, int change, QWidget* par
     });
 }
 
+// A bar of this platform takes the arrow to the right for a step back.
+void MapScrollBar::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Right) {
+        triggerAction(SliderSingleStepAdd);
+    } else if (event->key() == Qt::Key_Left) {
+        triggerAction(SliderSingleStepSub);
+    } else {
+        QScrollBar::keyPressEvent(event);
+    }
+}
+
 void MapScrollBar::centre()
 {
     const QSignalBlocker quiet(this);
@@ -151,10 +166,10 @@ MapSurface::MapSurface(QWidget* parent)
       m_vertical(new MapScrollBar(Qt::Vertical, vScrollChange, this)),
       m_rulerCaption(new QLabel(this)),
       m_distance(new QLabel(QStringLiteral("0 yds."), this)),
-      m_scalePanel(new QWidget(this))
+      m_scalePanel(new QWidget(this)),
+      m_targetTool(new QPushButton(this))
 {
     setObjectName(QStringLiteral("surface"));
-    setMouseTracking(true);
     m_horizontal->setObjectName(QStringLiteral("HScroll1"));
     m_vertical->setObjectName(QStringLiteral("VScroll1"));
     m_map->setBars(m_horizontal, m_vertical);
@@ -167,7 +182,10 @@ MapSurface::MapSurface(QWidget* parent)
     m_distance->setAlignment(Qt::AlignCenter);
     m_scalePanel->setObjectName(QStringLiteral("picScaleYards"));
     m_scalePanel->setGeometry(scalePanel);
+    m_targetTool->setObjectName(QStringLiteral("cmdTarget"));
+    m_targetTool->hide();
     makeReadOuts();
+    makeTools();
     const MapLayout normal = *mapLayout(WindowState::Normal, {}, {});
     setMinimumSize(normal.vScrollLeft + scrollBarSize, normal.hScrollTop + scrollBarSize);
     arrange(normal);
@@ -203,11 +221,23 @@ void MapSurface::makeReadOuts()
     }
 }
 
+void MapSurface::makeTools()
+{
+    m_tools = new ToolRow(this);
+    m_tools->watch(m_map, ToolRow::Place::Map);
+    m_tools->watch(m_rulerCaption, ToolRow::Place::Ruler);
+    m_tools->watch(m_distance, ToolRow::Place::Ruler);
+    m_tools->watch(m_scalePanel, ToolRow::Place::ScalePanel);
+    m_tools->leadTabThrough(m_map);
+}
+
 void MapSurface::arrange(const MapLayout& layout)
 {
     m_map->setGeometry(MapLayout::mapLeft, MapLayout::mapTop, layout.mapWidth, layout.mapHeight);
     m_horizontal->setGeometry(0, layout.hScrollTop, layout.hScrollWidth, scrollBarSize);
     m_vertical->setGeometry(layout.vScrollLeft, MapLayout::mapTop, scrollBarSize, layout.vScrollHeight);
+    m_tools->placeCorner({layout.vScrollLeft, layout.hScrollTop}, scrollBarSize,
+                         {layout.hotCenterMapLeft, layout.hotCenterMapTop});
 }
 
 void MapSurface::centreBars()
@@ -265,12 +295,6 @@ void MapSurface::showDevelopmentReadOuts()
         box->raise();
         box->show();
     }
-}
-
-void MapSurface::mouseMoveEvent(QMouseEvent* event)
-{
-    Q_EMIT pointerMoved();
-    QWidget::mouseMoveEvent(event);
 }
 
 } // namespace torvane

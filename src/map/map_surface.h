@@ -7,9 +7,12 @@
 
 #include <array>
 
+class QAbstractButton;
 class QLabel;
 
 namespace torvane {
+
+class ToolRow;
 
 /// The tactical map's own picture: takes the mouse and the keys, and shows when it has the focus.
 class MapBox : public PictureBox
@@ -57,12 +60,15 @@ public:
 Q_SIGNALS:
     void stepped(int value, torvane::ScrollEvent event);
 
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+
 private:
     int m_valueAtPress = 0;
 };
 
 /// The inside of the main window below its menu: the map between its scroll bars, and the row above it with
-/// the ruler and the read-outs.
+/// the tools, the ruler and the read-outs.
 class MapSurface : public QWidget
 {
     Q_OBJECT
@@ -73,6 +79,9 @@ public:
     MapBox& map() { return *m_map; }
     MapScrollBar& horizontal() { return *m_horizontal; }
     MapScrollBar& vertical() { return *m_vertical; }
+    ToolRow& tools() { return *m_tools; }
+    /// Never shown: it arms the target area as the menu does.
+    QAbstractButton* targetTool() { return m_targetTool; }
 
     void arrange(const MapLayout& layout);
     void centreBars();
@@ -87,15 +96,9 @@ public:
     void showScrollValues(int horizontal, int vertical);
     void showDevelopmentReadOuts();
 
-Q_SIGNALS:
-    /// The pointer moves over the surface itself or over what has no tag of its own.
-    void pointerMoved();
-
-protected:
-    void mouseMoveEvent(QMouseEvent* event) override;
-
 private:
     void makeReadOuts();
+    void makeTools();
     PictureBox* readOut(const char* designName, QWidget* parent, QRect place);
 
     MapBox* m_map;
@@ -104,6 +107,8 @@ private:
     QLabel* m_rulerCaption;
     QLabel* m_distance;
     QWidget* m_scalePanel;
+    ToolRow* m_tools = nullptr;
+    QAbstractButton* m_targetTool;
 
     PictureBox* m_width = nullptr;
     PictureBox* m_height = nullptr;

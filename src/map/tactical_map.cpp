@@ -3,7 +3,11 @@
 #include "divisions/create_division_frm.h"
 #include "divisions/formation_placement.h"
 #include "map/draw_marks.h"
+#include "map/grid_level_frm.h"
 #include "map/map_surface.h"
+#include "map/tool_row.h"
+#include "map/zoom_level_frm.h"
+#include "overview/enviro_frm.h"
 #include "platform/number_text.h"
 #include "platform/runtime_error.h"
 #include "shell/captions.h"
@@ -43,6 +47,7 @@ void TacticalMap::redrawMap()
     m_surface.map().clear();
     layer([this] { drawScaleBars(); });
     drawCursorCoordinates();
+    updateGridIndex();
     layer([&] { picture.marks = grid(); });
     layer([&] { drawScenario(picture); });
     layer([&] { drawTargetArea(picture.marks); });
@@ -69,6 +74,7 @@ void TacticalMap::tellOnce(const std::vector<RuntimeError>& errors)
 
 void TacticalMap::drawScaleBars()
 {
+    updateZoomIndex();
     const ViewState& view = m_state.view;
     m_surface.showExtent(extentReadOut(view, day()), extentReadOut(view, day(), metresUnit));
 }
@@ -93,8 +99,26 @@ void TacticalMap::drawScenario(MapPicture& picture)
     if (m_editor.workingProfile().divisionCount() > 0) {
         MapPlotter plotter(m_editor.workingProfile(), m_editor.shipCatalogue(), m_state,
                            mainText(MainText::DivisionShort, m_editor.language()));
-        plotter.drawDivisions(day(), RingDrawer(), picture);
+        RangeRings rings(m_state, ringConditions(), m_editor.workingProfile().parsed(),
+                         m_editor.shipCatalogue());
+        plotter.drawDivisions(
+            day(), [&rings](const PlottedShip& ship, MarkList& marks) { rings.appendRings(ship, marks); },
+            picture);
     }
+}
+
+// The dialog's controls as they stand, also where what they hold was never stored.
+RingConditions TacticalMap::ringConditions() const
+{
+    if (m_state.toggles.visRingsOn == 0 && m_state.toggles.radarRingsOn == 0) {
+        return {};
+    }
+    const EnvironmentValues values = m_editor.enviroFrm().values();
+    return {.visibility = values.visibility,
+            .radar = values.radar,
+            .seaState = values.seaState,
+            .rain = values.rain,
+            .day = day()};
 }
 
 void TacticalMap::drawTargetArea(MarkList& marks)
@@ -117,22 +141,23 @@ void TacticalMap::drawSeparationRings(MarkList& marks)
     }
 }
 
-void TacticalMap::setZoomIndex(int zoomIndex)
+void TacticalMap::updateZoomIndex()
 {
-    mapScale(zoomIndex, day());
-    m_state.view.zoomIndex = static_cast<std::int16_t>(zoomIndex);
+    if (valueOf(m_editor.mainFrm().chkUnloadZoom) == 0) {
+        m_state.view.zoomIndex = m_editor.zoomLevelFrm().zoomIndex();
+    }
 }
 
-void TacticalMap::setGridIndex(int gridIndex)
+void TacticalMap::updateGridIndex()
 {
-    if (gridIndex != 0) {
-        gridSpacing(gridIndex, m_state.view.zoomIndex, day());
+    if (valueOf(m_editor.mainFrm().chkUnloadGrid) == 0) {
+        m_state.view.gridIndex = m_editor.gridLevelFrm().gridIndex();
     }
-    m_state.view.gridIndex = static_cast<std::int16_t>(gridIndex);
 }
 
 void TacticalMap::readMapScale()
 {
+    updateZoomIndex();
     m_state.view.mapScale = mapScale(m_state.view.zoomIndex, day());
 }
 
@@ -207,6 +232,36 @@ void TacticalMap::saveDivPosition()
     drawMarks(m_surface.map(), grid());
     FormationPlacement placement(m_editor.workingProfile(), m_editor.shipCatalogue(), m_state.view);
     placement.findDivisionToPlace(m_repositionKey, day());
+}
+
+void TacticalMap::useTool(Tool tool)
+{
+    MapToggles& toggles = m_state.toggles;
+    switch (tool) {
+    case Tool::GridLevel:
+        m_editor.gridLevelFrm().openAt(m_state.view.gridIndex);
+        break;
+    case Tool::ZoomLevel:
+        m_editor.zoomLevelFrm().openAt(m_state.view.zoomIndex);
+        break;
+    case Tool::Measure:
+        toggleMeasureTool();
+        break;
+    case Tool::CenterMap:
+        centre();
+        break;
+    default:
+        toggle(toggles, tool);
+        break;
+    }
+    if (tool == Tool::Scale && toggles.scaleLabelsOn == 0) {
+        setMapPointer(Pointer::Default);
+    }
+    m_surface.tools().showState(toggles, m_measure.isOn());
+    // Switching the ruler on draws nothing anew, and off does so by itself.
+    if (tool != Tool::Measure) {
+        redrawMap();
+    }
 }
 
 void TacticalMap::toggleMeasureTool()

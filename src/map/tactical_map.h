@@ -2,6 +2,8 @@
 
 #include "map/map_interaction.h"
 #include "map/map_plotting.h"
+#include "map/range_rings.h"
+#include "map/view_tools.h"
 #include "platform/pointer.h"
 #include "platform/runtime_error.h"
 
@@ -25,8 +27,6 @@ public:
     TacticalMap(Editor& editor, MapSurface& surface);
 
     const MapState& state() const { return m_state; }
-    /// What the tools of the map switch; followed by `redrawMap`.
-    MapToggles& toggles() { return m_state.toggles; }
 
     /// Repaints the map from the working profile and rebuilds the Edit Ship menu. An error ends its layer
     /// with what came before it drawn, and leaves the other layers; it is shown once, and again only after a
@@ -35,9 +35,9 @@ public:
     /// The view's extent at its zoom level.
     void drawScaleBars();
 
-    /// The view's indices, 1 to 11 and 0 to 3. Throws SubscriptOutOfRange for others.
-    void setZoomIndex(int zoomIndex);
-    void setGridIndex(int gridIndex);
+    /// Take the view's indices from the options of their dialogs, unless those were left by their close box.
+    void updateZoomIndex();
+    void updateGridIndex();
     /// Takes the scale from the table.
     void readMapScale();
 
@@ -65,6 +65,8 @@ public:
     void placeAt(const QString& x, const QString& y);
     const QString& repositionKey() const { return m_repositionKey; }
 
+    /// A click on a tool.
+    void useTool(Tool tool);
     void toggleMeasureTool();
     void keyTyped(const QString& character);
     void mousePressed(Qt::MouseButton button, QPointF position);
@@ -76,6 +78,7 @@ private:
     void drawCursorCoordinates();
     MarkList grid() const;
     void drawScenario(MapPicture& picture);
+    RingConditions ringConditions() const;
     void drawTargetArea(MarkList& marks);
     void drawSeparationRings(MarkList& marks);
     void tellOnce(const std::vector<RuntimeError>& errors);

@@ -3,8 +3,9 @@
 #include "platform/list_combo.h"
 #include "shell/editor.h"
 
+#include <QAbstractButton>
+#include <QGroupBox>
 #include <QLabel>
-#include <QPushButton>
 
 namespace torvane {
 
@@ -16,8 +17,10 @@ void applyCaptionTable(QWidget& window, std::span<const CaptionRow> captions, La
             window.setWindowTitle(caption);
         } else if (auto* label = window.findChild<QLabel*>(row.control)) {
             label->setText(caption);
-        } else if (auto* button = window.findChild<QPushButton*>(row.control)) {
+        } else if (auto* button = window.findChild<QAbstractButton*>(row.control)) {
             button->setText(caption);
+        } else if (auto* group = window.findChild<QGroupBox*>(row.control)) {
+            group->setTitle(caption);
         }
     }
 }

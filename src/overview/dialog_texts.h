@@ -8,7 +8,8 @@ namespace torvane {
 
 class Editor;
 
-/// Gives a window its title and its labels and buttons the captions of a table, by their design names.
+/// Gives a window its title and its labels, buttons and groups the captions of a table, by their design
+/// names.
 void applyCaptionTable(QWidget& window, std::span<const CaptionRow> captions, Language language);
 
 /// Gives the controls of a window the tool tips of a table, which are also what assistive tools say of them.

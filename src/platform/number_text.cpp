@@ -10,6 +10,13 @@
 
 namespace torvane {
 
+RuntimeError overflow(const QString& value)
+{
+    constexpr qsizetype longest = 40;
+    const QString shown = value.size() > longest ? value.left(longest) + QStringLiteral("...") : value;
+    return {RuntimeError::Overflow, QStringLiteral("Overflow: %1 is out of range.").arg(shown)};
+}
+
 namespace {
 
 bool isDigit(QChar c)
@@ -87,13 +94,6 @@ void takeExponent(Characters& characters, WrittenNumber& number)
     }
     number.exponent = negative ? -number.exponent : number.exponent;
     number.text += 'e' + std::to_string(number.exponent);
-}
-
-RuntimeError overflow(const QString& value)
-{
-    constexpr qsizetype longest = 40;
-    const QString shown = value.size() > longest ? value.left(longest) + QStringLiteral("...") : value;
-    return {RuntimeError::Overflow, QStringLiteral("Overflow: %1 is out of range.").arg(shown)};
 }
 
 template <typename Integer>

@@ -1,13 +1,102 @@
 #include "platform/picture_box.h"
 
+#include "platform/circle_arcs.h"
+
 #include <QFontMetrics>
 #include <QPaintEvent>
 #include <QPainter>
 #include <QResizeEvent>
 
 #include <algorithm>
+#include <climits>
+#include <cmath>
 
 namespace torvane {
+
+namespace {
+
+/// Circles up to this radius are quickly drawn whole, wherever the picture ends.
+constexpr double smallRadius = 100;
+/// Where a circle goes over from one pixel a column to one pixel a row: half way down its first quarter.
+constexpr double diagonal = 0.70710678118654752;
+/// Beyond the picture, so that no end of an arc shows at its edge.
+constexpr double margin = 8;
+
+// Whole numbers of 32 bits, anywhere: their distances are reckoned in doubles, which hold them all.
+QRectF boundsOf(QPoint centre, double radius)
+{
+    return {centre.x() - radius, centre.y() - radius, 2 * radius, 2 * radius};
+}
+
+bool overlap(const QRectF& bounds, const QRectF& area)
+{
+    return bounds.left() <= area.right() && bounds.right() >= area.left() && bounds.top() <= area.bottom() &&
+           bounds.bottom() >= area.top();
+}
+
+/// Pixels of a circle, one in each column where it is flat and one in each row where it is steep, as the
+/// drawing library chooses them; but only the columns and rows of the picture are walked.
+class CirclePixels
+{
+public:
+    CirclePixels(QImage& image, QPoint centre, double radius, QRgb colour)
+        : m_pixels(reinterpret_cast<QRgb*>(image.bits())),
+          m_rowLength(image.bytesPerLine() / qsizetype{sizeof(QRgb)}),
+          m_width(image.width()),
+          m_height(image.height()),
+          m_x(centre.x()),
+          m_y(centre.y()),
+          m_radius(static_cast<qint64>(radius)),
+          m_colour(colour)
+    {
+    }
+
+    void plot()
+    {
+        qint64 flat = std::max<qint64>(0, static_cast<qint64>(static_cast<double>(m_radius) * diagonal) - 2);
+        while (across(flat) > flat + 1) {
+            ++flat;
+        }
+        const qint64 steep = across(flat) - 1;
+        const qint64 lastX = std::min(m_width - 1, m_x + flat);
+        for (qint64 x = std::max<qint64>(0, m_x - flat); x <= lastX; ++x) {
+            const qint64 up = across(x - m_x);
+            put(x, m_y - up);
+            put(x, m_y + up);
+        }
+        const qint64 lastY = std::min(m_height - 1, m_y + steep);
+        for (qint64 y = std::max<qint64>(0, m_y - steep); y <= lastY; ++y) {
+            const qint64 aside = across(y - m_y);
+            put(m_x - aside, y);
+            put(m_x + aside, y);
+        }
+    }
+
+private:
+    /// The other coordinate, to the nearest whole number.
+    qint64 across(qint64 offset) const
+    {
+        const auto square = static_cast<double>(m_radius * m_radius - offset * offset);
+        return static_cast<qint64>(std::sqrt(square) + 0.5);
+    }
+    void put(qint64 x, qint64 y)
+    {
+        if (x >= 0 && x < m_width && y >= 0 && y < m_height) {
+            m_pixels[y * m_rowLength + x] = m_colour;
+        }
+    }
+
+    QRgb* m_pixels;
+    qsizetype m_rowLength;
+    qint64 m_width;
+    qint64 m_height;
+    qint64 m_x;
+    qint64 m_y;
+    qint64 m_radius;
+    QRgb m_colour;
+};
+
+} // namespace
 
 // Both corners belong to the box, whichever way round they are.
 static QRect boxOf(QPoint from, QPoint to)
@@ -77,11 +166,25 @@ void PictureBox::filledBox(QPoint from, QPoint to)
 
 void PictureBox::circle(QPoint centre, int radius)
 {
+    const double size = std::abs(static_cast<double>(radius));
+    const QRectF bounds = boundsOf(centre, size);
+    const QRectF area =
+        QRectF({}, m_image.deviceIndependentSize()).adjusted(-margin, -margin, margin, margin);
+    if (!overlap(bounds, area)) {
+        return;
+    }
     draw([&](QPainter& painter) {
-        if (radius == 0) {
+        if (m_image.devicePixelRatio() == 1) {
+            CirclePixels(m_image, centre, size, m_foreColor.rgb()).plot();
+        } else if (radius == 0) {
             painter.drawPoint(centre);
+        } else if (size <= smallRadius || area.contains(bounds)) {
+            painter.drawEllipse(centre, static_cast<int>(size), static_cast<int>(size));
         } else {
-            painter.drawEllipse(centre, radius, radius);
+            // The drawing library takes time for all of a circle, seen or not, and can't take large ones.
+            for (const Curve& curve : visibleArcs(centre, size, area)) {
+                painter.drawPolyline(curve.data(), static_cast<int>(curve.size()));
+            }
         }
     });
 }
@@ -89,11 +192,19 @@ void PictureBox::circle(QPoint centre, int radius)
 void PictureBox::print(const QString& text)
 {
     const QFontMetrics metrics(font());
+    const int lineHeight = metrics.height();
+    const QPoint at = m_current;
+    m_current = QPoint(0, static_cast<int>(std::min<qint64>(qint64{at.y()} + lineHeight, INT_MAX)));
+    // A glyph may reach a little out of its line's box.
+    const QRectF area = QRectF({}, m_image.deviceIndependentSize())
+                            .adjusted(0, -2.0 * lineHeight, lineHeight, lineHeight);
+    if (at.y() < area.top() || at.y() > area.bottom() || at.x() > area.right()) {
+        return;
+    }
     draw([&](QPainter& painter) {
         painter.setFont(font());
-        painter.drawText(m_current + QPoint(0, metrics.ascent()), text);
+        painter.drawText(at + QPoint(0, metrics.ascent()), text);
     });
-    m_current = QPoint(0, m_current.y() + metrics.height());
 }
 
 void PictureBox::paintEvent(QPaintEvent* event)

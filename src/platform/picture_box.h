@@ -37,7 +37,8 @@ public:
     /// The outline of the box with these corners, or the box filled.
     void box(QPoint from, QPoint to);
     void filledBox(QPoint from, QPoint to);
-    /// A circle of whole-pixel radius; 0 is a point.
+    /// A circle of whole-pixel radius, of any size anywhere; 0 is a point, and one below 0 is as large as its
+    /// opposite. Only the part in the picture takes time.
     void circle(QPoint centre, int radius);
     /// Writes a line of text at the current position, which moves to the start of the next line.
     void print(const QString& text);

@@ -60,12 +60,15 @@ public:
     virtual std::optional<QString> save(const FileRequest& request) = 0;
 };
 
-/// Shows a help file at its contents.
+/// Shows a help file.
 class HelpViewer
 {
 public:
     virtual ~HelpViewer() = default;
+    /// At its contents.
     virtual void showContents(const QString& file) = 0;
+    /// At the chapter of that name.
+    virtual void showChapter(const QString& file, const QString& chapter) = 0;
 };
 
 /// Starts another program in a folder and doesn't wait for it. False if it could not be started.

@@ -3,13 +3,10 @@
 #include "platform/pointer.h"
 
 #include <QApplication>
-#include <QDesktopServices>
 #include <QFileDialog>
-#include <QFileInfo>
 #include <QInputDialog>
 #include <QMessageBox>
 #include <QPushButton>
-#include <QUrl>
 
 namespace torvane {
 
@@ -136,20 +133,6 @@ std::optional<QString> WindowFileBoxes::save(const FileRequest& request)
         return std::nullopt;
     }
     return window.selectedFiles().constFirst();
-}
-
-void WindowHelpViewer::showContents(const QString& file)
-{
-    if (!QFileInfo(file).isFile()) {
-        const QString text = m_language == Language::German ? QStringLiteral("Die Hilfedatei fehlt:\n%1")
-                                                            : QStringLiteral("The help file is missing:\n%1");
-        m_boxes.show(
-            {.text = text.arg(file),
-             .title = m_language == Language::German ? QStringLiteral("Hilfe") : QStringLiteral("Help"),
-             .icon = MessageBox::Icon::Exclamation});
-        return;
-    }
-    QDesktopServices::openUrl(QUrl::fromLocalFile(file));
 }
 
 } // namespace torvane

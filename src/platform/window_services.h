@@ -36,16 +36,4 @@ public:
     std::optional<QString> save(const FileRequest& request) override;
 };
 
-/// Shows a help file; a missing one gives a box that names it.
-class WindowHelpViewer : public HelpViewer
-{
-public:
-    WindowHelpViewer(Language language, MessageBoxes& boxes) : m_language(language), m_boxes(boxes) {}
-    void showContents(const QString& file) override;
-
-private:
-    Language m_language;
-    MessageBoxes& m_boxes;
-};
-
 } // namespace torvane

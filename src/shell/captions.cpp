@@ -1,7 +1,5 @@
 #include "shell/captions.h"
 
-#include <cmath>
-
 namespace torvane {
 
 constexpr std::array<TextRow<MainText>, 19> mainTexts{{
@@ -43,22 +41,5 @@ QString mainText(MainText text, Language language)
 {
     return textIn(mainTexts, text, language);
 }
-
-int HelpTagText::width() const
-{
-    return static_cast<int>(std::ceil(perCharacter * static_cast<double>(string().size()))) + plus;
-}
-
-constexpr std::array<HelpTagRow, 9> helpTags{{
-    {"hotGrid", {"Grid Level", 5.5, 0}, {"Rasterebene ", 5.5, 0}},
-    {"hotZoom", {"Zoom Level", 5.5, 5}, {"Zoom-Ebene ", 5.5, 5}},
-    {"hotNames", {"Names Toggle", 5.5, 7}, {"Namen umschalten ", 5.5, 3}},
-    {"hotScale", {"Scale Toggle", 5.5, 5}, {"Maßstab umschalten", 5.5, 3}},
-    {"hotVisRings", {"Visibility Ranges", 5.0, 0}, {"Sichtweiten", 5.5, 0}},
-    {"hotGunRings", {"Main Gun Ranges", 5.5, 7}, {"Hauptgeschützreichweiten", 5.5, 0}},
-    {"hotRadarRings", {"Radar Ranges", 5.5, 7}, {"Radarreichweiten", 5.5, 0}},
-    {"hotLineTool", {"Line Tool", 5.5, 0}, {"Linien-Werkzeug", 5.5, 0}},
-    {"hotCenterMap", {"Center Map", 5.5, 3}, {"Zentrum karte", 5.5, 0}},
-}};
 
 } // namespace torvane

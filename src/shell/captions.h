@@ -37,28 +37,4 @@ extern const std::array<TextRow<MainText>, 19> mainTexts;
 
 QString mainText(MainText text, Language language);
 
-/// A help tag of the tool row: its text and the width that it gets, `perCharacter` times the length plus
-/// `plus`, in pixels. The width grows where the font needs more.
-struct HelpTagText
-{
-    const char* text;
-    double perCharacter;
-    int plus;
-
-    QString string() const { return QString::fromUtf8(text); }
-    /// Whole pixels, rounded up.
-    int width() const;
-};
-struct HelpTagRow
-{
-    const char* name; ///< design name of the tag's control
-    HelpTagText english;
-    HelpTagText german;
-
-    const HelpTagText& in(Language language) const { return language == Language::German ? german : english; }
-};
-
-/// The nine help tags, in the order of the tools.
-extern const std::array<HelpTagRow, 9> helpTags;
-
 } // namespace torvane

@@ -1,7 +1,10 @@
 #include "shell/editor_form.h"
 
 #include "shell/editor.h"
+#include "shell/help_texts.h"
 #include "shell/main_frm.h"
+
+#include <QKeyEvent>
 
 namespace torvane {
 
@@ -16,6 +19,18 @@ void EditorForm::onLoad()
         setGermanCaptions();
     } else {
         setEnglishCaptions();
+    }
+}
+
+void EditorForm::keyPressEvent(QKeyEvent* event)
+{
+    const QString chapter = helpChapterFor(objectName());
+    if (event->key() == Qt::Key_F1 && !chapter.isEmpty()) {
+        runHandler([&] {
+            m_editor.services().helpViewer.showChapter(m_editor.paths().workDir + helpFileName, chapter);
+        });
+    } else {
+        Form::keyPressEvent(event);
     }
 }
 

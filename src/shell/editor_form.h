@@ -25,6 +25,8 @@ protected:
     void onLoad() override;
     /// Gives the controls their captions and fills the window's texts. The design-time captions are English.
     virtual void applyCaptions(Language language) { static_cast<void>(language); }
+    /// F1 opens the help at the chapter about the window.
+    void keyPressEvent(QKeyEvent* event) override;
 
     Editor& m_editor;
 };

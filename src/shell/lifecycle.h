@@ -21,6 +21,9 @@ struct Paths
     QString scenarioDir; ///< finished scenarios
 };
 
+/// The guide for authors, in the work folder.
+inline constexpr QLatin1StringView helpFileName{"SE_README.HLP"};
+
 /// The paths below a base path, which may be empty.
 Paths pathsBelow(const QString& basePath);
 

@@ -2,12 +2,14 @@
 
 #include "divisions/create_division_frm.h"
 #include "map/map_surface.h"
+#include "map/tool_row.h"
 #include "overview/overview_frm.h"
 #include "platform/pointer.h"
 #include "scenario_file/save_scenario.h"
 #include "shell/about_frm.h"
 #include "shell/captions.h"
 #include "shell/commands.h"
+#include "shell/edit_ship_commands.h"
 #include "shell/editor.h"
 #include "shell/load_commands.h"
 #include "shell/main_menu.h"
@@ -16,6 +18,7 @@
 #include "shell/splash_frm.h"
 #include "store/working_tables.h"
 
+#include <QAbstractButton>
 #include <QAction>
 #include <QFileInfo>
 #include <QKeyEvent>
@@ -27,9 +30,6 @@ namespace torvane {
 
 namespace {
 
-const QColor helpTagColor(255, 255, 128);
-
-constexpr int helpTagHeight = 17;
 constexpr double smallestMenuFont = 7.5; // points
 constexpr double captionPixels = 5.5;    // width of a character of a caption
 
@@ -45,7 +45,6 @@ MainFrm::MainFrm(Editor& editor) : EditorForm(editor, QStringLiteral("MainFrm"),
         "QMenuBar::item:selected { background: palette(highlight); color: palette(highlighted-text); }"));
     m_menu = new MainMenu(bar);
     makeSurface();
-    makeHelpTags();
     connectCommands();
     connectMap();
 }
@@ -71,21 +70,6 @@ void MainFrm::makeSurface()
     m_progress.emplace(m_surface);
 }
 
-void MainFrm::makeHelpTags()
-{
-    for (std::size_t i = 0; i < helpTags.size(); ++i) {
-        auto* tag = new QLabel(m_surface);
-        tag->setObjectName(QLatin1StringView(helpTags[i].name));
-        QPalette colors = tag->palette();
-        colors.setColor(QPalette::Window, helpTagColor);
-        colors.setColor(QPalette::WindowText, Qt::black);
-        tag->setPalette(colors);
-        tag->setAutoFillBackground(true);
-        tag->hide();
-        m_helpTags[i] = tag;
-    }
-}
-
 void MainFrm::connectCommands()
 {
     const auto command = [this](const char* entry, auto handler) {
@@ -100,9 +84,11 @@ void MainFrm::connectCommands()
     command("mnuHotText", [this] { toggleHelpTags(); });
     command("mnuAbout", [this] { showAbout(); });
     command("mnuHelpTopics", [this] {
-        m_editor.services().helpViewer.showContents(m_editor.paths().workDir +
-                                                    QStringLiteral("SE_README.HLP"));
+        m_editor.services().helpViewer.showContents(m_editor.paths().workDir + helpFileName);
     });
+    for (const QString& entry : editShipEntries()) {
+        on(m_menu->action(entry), &QAction::triggered, [this, entry] { editShip(m_editor, entry); });
+    }
 }
 
 void MainFrm::connectMap()
@@ -110,17 +96,15 @@ void MainFrm::connectMap()
     on(&m_surface->map(), &MapBox::typed, [this](const QString& character) { m_map->keyTyped(character); });
     on(&m_surface->map(), &MapBox::pressed,
        [this](Qt::MouseButton button, QPointF position) { m_map->mousePressed(button, position); });
-    on(&m_surface->map(), &MapBox::moved, [this](QPointF position) {
-        hideHelpTags();
-        m_map->mouseMoved(position);
-    });
-    on(m_surface, &MapSurface::pointerMoved, [this] { hideHelpTags(); });
+    on(&m_surface->map(), &MapBox::moved, [this](QPointF position) { m_map->mouseMoved(position); });
+    on(&m_surface->tools(), &ToolRow::clicked, [this](Tool tool) { m_map->useTool(tool); });
     on(&m_surface->horizontal(), &MapScrollBar::stepped,
        [this](int value, ScrollEvent event) { m_map->scrolledHorizontally(value, event, mapWindowState()); });
     on(&m_surface->vertical(), &MapScrollBar::stepped,
        [this](int value, ScrollEvent event) { m_map->scrolledVertically(value, event, mapWindowState()); });
     on(m_menu->action(QStringLiteral("mnuTargetBox")), &QAction::triggered,
        [this] { m_map->armTargetArea(); });
+    on(m_surface->targetTool(), &QAbstractButton::clicked, [this] { m_map->armTargetArea(); });
     for (const bool blue : {true, false}) {
         for (int division = 1; division <= divisionsPerSide; ++division) {
             const RepositionRow& row = repositionRow(blue, division);
@@ -135,13 +119,6 @@ void MainFrm::askForPosition(const QString& repositionKey)
     m_map->setRepositionKey(repositionKey);
     setValue(m_editor.createDivisionFrm().chkReposition, 1);
     setValue(ChkPlotDiv, 1);
-}
-
-void MainFrm::hideHelpTags()
-{
-    for (QLabel* tag : m_helpTags) {
-        tag->hide();
-    }
 }
 
 void MainFrm::onLoad()
@@ -192,11 +169,7 @@ void MainFrm::applyCaptions(Language language)
         language == Language::German ? qRound(captionPixels * static_cast<double>(ruler.size())) : 0;
     m_surface->setRulerCaption(ruler, rulerWidth);
     fitMenuBar();
-    for (std::size_t i = 0; i < helpTags.size(); ++i) {
-        const HelpTagText& text = helpTags[i].in(language);
-        m_helpTags[i]->setText(text.string());
-        m_helpTags[i]->resize(std::max(text.width(), m_helpTags[i]->sizeHint().width()), helpTagHeight);
-    }
+    m_surface->tools().setCaptions(language);
 }
 
 // The German menus are long: the bar's text gives way until they stand in the window's width, and what is
@@ -259,6 +232,7 @@ void MainFrm::showProgress(const QString& text)
 void MainFrm::toggleHelpTags()
 {
     m_helpTagsOn = !m_helpTagsOn;
+    m_surface->tools().setTagsOn(m_helpTagsOn);
     QAction* entry = m_menu->action(QStringLiteral("mnuHotText"));
     entry->setChecked(m_helpTagsOn);
     entry->setText(

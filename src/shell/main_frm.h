@@ -7,7 +7,6 @@
 
 #include <QString>
 
-#include <array>
 #include <optional>
 
 namespace torvane {
@@ -80,7 +79,6 @@ protected:
 
 private:
     void makeSurface();
-    void makeHelpTags();
     void connectCommands();
     void connectMap();
     void fitMenuBar();
@@ -89,7 +87,6 @@ private:
 
     WindowState mapWindowState() const;
     void windowResized();
-    void hideHelpTags();
     /// The next click on the map places a division.
     void askForPosition(const QString& repositionKey);
     void takeReturnedPosition();
@@ -102,7 +99,6 @@ private:
     MainMenu* m_menu = nullptr;
     MapSurface* m_surface = nullptr;
     std::optional<TacticalMap> m_map;
-    std::array<QLabel*, 9> m_helpTags{};
     std::optional<ProgressPanel> m_progress;
     bool m_helpTagsOn = true;
     bool m_started = false; ///< the store is there

@@ -4,6 +4,7 @@
 #include "platform/window_services.h"
 #include "shell/captions.h"
 #include "shell/editor.h"
+#include "shell/help_viewer.h"
 
 #include <QApplication>
 #include <QIcon>

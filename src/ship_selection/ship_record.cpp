@@ -1,5 +1,6 @@
 #include "ship_selection/ship_record.h"
 
+#include "platform/capitals.h"
 #include "store/profile_keys.h"
 
 #include <QFileInfo>
@@ -99,13 +100,6 @@ constexpr auto recordKeys = [] {
     });
     return keys;
 }();
-
-/// Letter by letter: "ß" has no capital and stays, so that no two names become one.
-QString inCapitals(QString name)
-{
-    std::transform(name.cbegin(), name.cend(), name.begin(), [](QChar c) { return c.toUpper(); });
-    return name;
-}
 
 QString creationValue(const ShipKey& key, QStringView radarType, ShipCatalogue& catalogue)
 {

@@ -16,6 +16,7 @@ const QString english = QStringLiteral("TorvaneScenarioEditor-English");
 const QString germanTitle = QStringLiteral("Torvane - Szenario-Editor");
 const QString englishTitle = QStringLiteral("Torvane - Scenario Editor");
 const QString germanQuestion = QStringLiteral("Szenario-Editor verlassen");
+const QString germanHelp = QStringLiteral("Torvane - Hilfe");
 
 class RealRun : public ::testing::Test
 {
@@ -50,7 +51,8 @@ protected:
 
     QStringList atRest() const
     {
-        return {QStringLiteral("ScenarioData.mdb"), QStringLiteral("ShipDatabase.mdb")};
+        return {QStringLiteral("SE_README.HLP"), QStringLiteral("ScenarioData.mdb"),
+                QStringLiteral("ShipDatabase.mdb")};
     }
 
     Desktop desktop;
@@ -149,6 +151,43 @@ TEST_F(RealRun, AKilledRunLeavesNothingToTheNext)
     EXPECT_NE(folder.workNames(), atRest());
     start();
     EXPECT_EQ(folder.workNames(), atRest());
+}
+
+TEST_F(RealRun, F1OpensTheHelpAndEscClosesItAndNotTheEditor)
+{
+    start();
+    desktop.press({QStringLiteral("F1")});
+    ASSERT_TRUE(desktop.isActive(germanHelp));
+    desktop.press({QStringLiteral("Escape")});
+    EXPECT_TRUE(desktop.hasNoWindow(germanHelp));
+    EXPECT_TRUE(desktop.hasWindow(germanTitle));
+    EXPECT_EQ(process->state(), QProcess::Running);
+}
+
+TEST_F(RealRun, TheHelpEndsWithTheEditor)
+{
+    start();
+    desktop.press({QStringLiteral("F1")});
+    ASSERT_TRUE(desktop.isActive(germanHelp));
+    desktop.close(germanTitle);
+    ASSERT_TRUE(desktop.isActive(germanQuestion));
+    desktop.press({QStringLiteral("Return")});
+    expectEnd();
+}
+
+TEST_F(RealRun, F1InADialogOpensTheHelpBesideIt)
+{
+    const QString overview = QStringLiteral("Torvane - Overview of the Scenario");
+    const QString help = QStringLiteral("Torvane - Help");
+    start(english);
+    desktop.press({QStringLiteral("alt+f"), QStringLiteral("n")});
+    ASSERT_TRUE(desktop.isActive(overview));
+    desktop.press({QStringLiteral("F1")});
+    ASSERT_TRUE(desktop.isActive(help));
+    EXPECT_TRUE(desktop.hasWindow(overview));
+    desktop.press({QStringLiteral("Escape")});
+    EXPECT_TRUE(desktop.hasNoWindow(help));
+    EXPECT_TRUE(desktop.hasWindow(overview));
 }
 
 // Processor time of a process so far, in clock ticks.

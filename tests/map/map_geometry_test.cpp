@@ -49,6 +49,24 @@ TEST(GridLevels, EachButtonMeansItsIndex)
     EXPECT_EQ(gridIndexOf(u"optLevel4"), std::nullopt);
 }
 
+TEST(Options, EachIndexHasItsButton)
+{
+    EXPECT_EQ(zoomOption(11), QLatin1StringView("optZoomLevel0"));
+    for (int i = 1; i <= 10; ++i) {
+        EXPECT_EQ(zoomOption(i), QStringLiteral("optZoomLevel%1").arg(i));
+    }
+    EXPECT_EQ(gridOption(0), QLatin1StringView("optOff"));
+    for (int i = 1; i <= 3; ++i) {
+        EXPECT_EQ(gridOption(i), QStringLiteral("optLevel%1").arg(i));
+    }
+    for (const int beyond : {-1, 12}) {
+        expectError(RuntimeError::SubscriptOutOfRange, [=] { zoomOption(beyond); });
+        expectError(RuntimeError::SubscriptOutOfRange, [=] { gridOption(beyond); });
+    }
+    expectError(RuntimeError::SubscriptOutOfRange, [] { zoomOption(0); });
+    expectError(RuntimeError::SubscriptOutOfRange, [] { gridOption(4); });
+}
+
 TEST(MapScale, HasItsValueInEveryCell)
 {
     constexpr std::array<int, 11> dayByIndex{240, 120, 80, 60, 50, 40, 30, 20, 480, 960, 10};

@@ -66,49 +66,5 @@ TEST(MainTextTable, BoxesThatNameAFileTakeItsName)
     }
 }
 
-struct ExpectedTag
-{
-    const char* name;
-    const char* english;
-    int englishWidth;
-    const char* german;
-    int germanWidth;
-};
-
-// Widths reckoned by hand: length times 5.5 (5 for the English visibility ranges) rounded up, plus the rest.
-constexpr std::array<ExpectedTag, 9> expectedTags{{
-    {"hotGrid", "Grid Level", 55, "Rasterebene ", 66},
-    {"hotZoom", "Zoom Level", 60, "Zoom-Ebene ", 66},
-    {"hotNames", "Names Toggle", 73, "Namen umschalten ", 97},
-    {"hotScale", "Scale Toggle", 71, "Maßstab umschalten", 102},
-    {"hotVisRings", "Visibility Ranges", 85, "Sichtweiten", 61},
-    {"hotGunRings", "Main Gun Ranges", 90, "Hauptgeschützreichweiten", 132},
-    {"hotRadarRings", "Radar Ranges", 73, "Radarreichweiten", 88},
-    {"hotLineTool", "Line Tool", 50, "Linien-Werkzeug", 83},
-    {"hotCenterMap", "Center Map", 58, "Zentrum karte", 72},
-}};
-
-TEST(HelpTags, HaveTextsAndWidthsInBothLanguages)
-{
-    ASSERT_EQ(helpTags.size(), expectedTags.size());
-    for (std::size_t i = 0; i < expectedTags.size(); ++i) {
-        const ExpectedTag& expected = expectedTags.at(i);
-        const HelpTagRow& row = helpTags.at(i);
-        EXPECT_STREQ(row.name, expected.name);
-        EXPECT_EQ(row.in(Language::English).string(), QString::fromUtf8(expected.english));
-        EXPECT_EQ(row.in(Language::German).string(), QString::fromUtf8(expected.german));
-        EXPECT_EQ(row.in(Language::English).width(), expected.englishWidth) << expected.name;
-        EXPECT_EQ(row.in(Language::German).width(), expected.germanWidth) << expected.name;
-    }
-}
-
-TEST(HelpTags, GermanTextsKeepTheirTrailingBlank)
-{
-    EXPECT_TRUE(helpTags.at(0).german.string().endsWith(QLatin1Char(' ')));
-    EXPECT_TRUE(helpTags.at(1).german.string().endsWith(QLatin1Char(' ')));
-    EXPECT_TRUE(helpTags.at(2).german.string().endsWith(QLatin1Char(' ')));
-    EXPECT_FALSE(helpTags.at(3).german.string().endsWith(QLatin1Char(' ')));
-}
-
 } // namespace
 } // namespace torvane

@@ -23,7 +23,8 @@ public:
                        "FloatPts TEXT, \"Torps?\" TEXT, ShortName TEXT)");
         m_database.run(
             "CREATE TABLE ShipDaClass (b, e, f, g, h, i, j, k, l, m, o, p, q, r, t, u, v, x, y, z, "
-            "aa, length, width)");
+            "aa, length, width, TurA, TurB, TurC, TurD, TurE, TurG, TurH, TurI, TurJ, TurL, TurM, TurN, "
+            "TurO, TurQ, TurR, TurT, TurU, TurX, TurY, TurZ)");
     }
 
     void addShip(const QString& name, const QString& shortName, const QString& type, const QString& shipClass,

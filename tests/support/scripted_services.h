@@ -64,8 +64,14 @@ class ScriptedHelpViewer : public HelpViewer
 {
 public:
     void showContents(const QString& file) override { shown.append(file); }
+    void showChapter(const QString& file, const QString& chapter) override
+    {
+        shown.append(file);
+        chapters.append(chapter);
+    }
 
     QStringList shown;
+    QStringList chapters;
 };
 
 class ScriptedProgramLauncher : public ProgramLauncher

@@ -6,8 +6,8 @@
 #include "platform/step_button.h"
 #include "shell/main_frm.h"
 #include "support/editor_fixture.h"
+#include "support/lists.h"
 
-#include <QAbstractItemView>
 #include <QClipboard>
 #include <QGroupBox>
 #include <QPlainTextEdit>
@@ -107,33 +107,6 @@ protected:
             click(button);
         }
     }
-    /// Opens a list with the mouse and takes one of its entries with the keys.
-    static void pick(ListCombo* list, const char* entry)
-    {
-        const int row = list->findText(QString::fromUtf8(entry));
-        ASSERT_GE(row, 0) << entry;
-        click(list);
-        QAbstractItemView* view = list->view();
-        ASSERT_TRUE(view->isVisible());
-        press(view, Qt::Key_Home);
-        for (int i = 0; i < row; ++i) {
-            press(view, Qt::Key_Down);
-        }
-        press(view, Qt::Key_Return);
-        ASSERT_FALSE(view->isVisible());
-        ASSERT_EQ(list->currentText(), QString::fromUtf8(entry));
-    }
-    static QStringList entries(const ListCombo* list)
-    {
-        QStringList texts;
-        for (int i = 0; i < list->count(); ++i) {
-            texts.append(list->itemText(i));
-        }
-        return texts;
-    }
-    /// A caption without the sign that marks its mnemonic.
-    static QString plain(QString caption) { return caption.remove(QLatin1Char('&')); }
-
     void expectOneBox(const char* text, const char* title)
     {
         ASSERT_EQ(boxes().size(), 1);

@@ -2,7 +2,12 @@
 
 #include "support/input.h"
 
+#include <QPainter>
+
 #include <gmock/gmock.h>
+
+#include <cmath>
+#include <limits>
 
 namespace torvane::testing {
 namespace {
@@ -17,6 +22,15 @@ protected:
         box.show();
         settle();
     }
+
+    void growTo(QSize size)
+    {
+        box.resize(size);
+        settle();
+        box.clear();
+        box.setForeColor(Qt::black);
+    }
+    bool isInked(int x, int y) const { return at(x, y) != QColor(Qt::white); }
 
     QColor at(int x, int y) const { return box.image().pixelColor(x, y); }
     int inked() const
@@ -83,6 +97,112 @@ TEST_F(Picture, ACircleHasItsRadiusAndRadiusZeroIsAPoint)
     box.circle({30, 20}, 0);
     EXPECT_EQ(at(30, 20), QColor(Qt::green));
     EXPECT_EQ(inked(), 1);
+}
+
+TEST_F(Picture, ACircleIsAsTheDrawingLibraryHasItAlsoAcrossTheEdge)
+{
+    growTo({300, 300});
+    for (const QPoint centre :
+         {QPoint(150, 150), QPoint(0, 290), QPoint(-20, 40), QPoint(310, -5), QPoint(150, -400)}) {
+        for (int radius = 1; radius <= 600; ++radius) {
+            box.clear();
+            box.circle(centre, radius);
+            QImage expected(box.image().size(), QImage::Format_RGB32);
+            expected.setDevicePixelRatio(box.image().devicePixelRatio());
+            expected.fill(Qt::white);
+            QPainter(&expected).drawEllipse(centre, radius, radius);
+            ASSERT_EQ(box.image(), expected) << radius;
+        }
+    }
+}
+
+struct LargeCircle
+{
+    QPoint centre;
+    int radius;
+};
+
+/// Checks each pixel of the picture: ink lies on the circle, and wherever the circle goes from one side of a
+/// pixel's row or column to the other there is ink.
+void expectCircle(const QImage& image, const LargeCircle& circle)
+{
+    const auto distance = [&circle](int x, int y) {
+        return std::hypot(static_cast<double>(x) - circle.centre.x(),
+                          static_cast<double>(y) - circle.centre.y()) -
+               std::abs(static_cast<double>(circle.radius));
+    };
+    const auto inked = [&image](int x, int y) { return image.pixelColor(x, y) != QColor(Qt::white); };
+    for (int y = 1; y < image.height(); ++y) {
+        for (int x = 1; x < image.width(); ++x) {
+            const double off = distance(x, y);
+            if (inked(x, y)) {
+                ASSERT_LT(std::abs(off), 1.2) << x << ", " << y;
+            }
+            if (off * distance(x - 1, y) < 0) {
+                ASSERT_TRUE(inked(x, y) || inked(x - 1, y) || inked(x, y - 1) || inked(x - 1, y - 1))
+                    << "a gap in row " << y << " at " << x;
+            }
+            if (off * distance(x, y - 1) < 0) {
+                ASSERT_TRUE(inked(x, y) || inked(x, y - 1) || inked(x - 1, y) || inked(x - 1, y - 1))
+                    << "a gap in column " << x << " at " << y;
+            }
+        }
+    }
+}
+
+TEST_F(Picture, OfALargeCircleThePartInThePictureIsDrawnWithoutAGap)
+{
+    growTo({300, 200});
+    for (const LargeCircle& circle :
+         {LargeCircle{{150, 100}, 101}, LargeCircle{{150, 100}, 160}, LargeCircle{{150, 100}, -170},
+          LargeCircle{{-500, 100}, 600}, LargeCircle{{150, 700}, 599}, LargeCircle{{1000, -900}, 1300},
+          LargeCircle{{-32700, 100}, 32760}, LargeCircle{{150, 400000}, 399950},
+          LargeCircle{{-200000000, 60}, 200000250}, LargeCircle{{10, -2000000000}, 2000000100}}) {
+        box.clear();
+        box.circle(circle.centre, circle.radius);
+        EXPECT_GT(inked(), 20) << circle.radius;
+        expectCircle(box.image(), circle);
+    }
+}
+
+TEST_F(Picture, ACircleThatPassesThePictureByLeavesNoInk)
+{
+    growTo({300, 200});
+    constexpr int largest = std::numeric_limits<int>::max();
+    constexpr int smallest = std::numeric_limits<int>::min();
+    for (const LargeCircle& circle :
+         {LargeCircle{{150, 100}, 400}, LargeCircle{{150, 100}, largest}, LargeCircle{{150, 100}, smallest},
+          LargeCircle{{largest, largest}, 7}, LargeCircle{{smallest, smallest}, 7},
+          LargeCircle{{largest, smallest}, 0}, LargeCircle{{-500, 100}, 400}, LargeCircle{{150, 900}, 600},
+          LargeCircle{{-600, -600}, 700}}) {
+        box.circle(circle.centre, circle.radius);
+        EXPECT_EQ(inked(), 0) << circle.centre.x() << ", " << circle.centre.y() << ": " << circle.radius;
+    }
+}
+
+TEST_F(Picture, ALargeCircleTouchesTheEdgeItReaches)
+{
+    growTo({300, 200});
+    box.circle({-1000, 100}, 1000);
+    EXPECT_TRUE(isInked(0, 100));
+    EXPECT_FALSE(isInked(1, 100));
+}
+
+TEST_F(Picture, TextOutOfThePictureMovesThePositionAndNothingElse)
+{
+    constexpr int largest = std::numeric_limits<int>::max();
+    constexpr int smallest = std::numeric_limits<int>::min();
+    const int height = QFontMetrics(box.font()).height();
+    for (const QPoint at : {QPoint(10, largest), QPoint(largest, 10), QPoint(10, smallest)}) {
+        box.setCurrent(at);
+        box.print(QStringLiteral("BB"));
+        EXPECT_EQ(inked(), 0);
+        EXPECT_EQ(box.current().x(), 0);
+        EXPECT_EQ(box.current().y(), at.y() == largest ? largest : at.y() + height);
+    }
+    box.setCurrent({-3, -height / 2});
+    box.print(QStringLiteral("BB"));
+    EXPECT_GT(inked(), 0) << "what reaches into the picture is shown";
 }
 
 TEST_F(Picture, TextStandsAtTheCurrentPositionAndGoesOnInTheNextLine)

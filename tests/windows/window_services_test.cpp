@@ -126,15 +126,6 @@ TEST(InputBox, GivesTheTextOrNothing)
     EXPECT_EQ(boxes.ask(QStringLiteral("T"), QStringLiteral("P"), QStringLiteral("start")), std::nullopt);
 }
 
-TEST(Help, AMissingFileGivesABoxThatNamesIt)
-{
-    ScriptedMessageBoxes boxes;
-    WindowHelpViewer viewer(Language::German, boxes);
-    viewer.showContents(QStringLiteral("/nowhere/SE_README.HLP"));
-    ASSERT_EQ(boxes.shown.size(), 1);
-    EXPECT_THAT(boxes.shown[0].text.toStdString(), ::testing::HasSubstr("/nowhere/SE_README.HLP"));
-}
-
 class Launcher : public ::testing::Test
 {
 protected:

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "ship_state/ship_data_page.h"
+
+#include <memory>
+
+namespace Ui {
+class MainGunsPage;
+}
+
+namespace torvane {
+
+/// The turrets on the ship's plan, and the main magazines below: A to port, B to starboard.
+class MainGunsPage : public ShipDataPage
+{
+    Q_OBJECT
+
+public:
+    explicit MainGunsPage(ShipData& shipData, QWidget* parent = nullptr);
+    ~MainGunsPage() override;
+
+    /// Offers the turrets that the class has.
+    void showClassTurrets();
+
+    void applyCaptions(Language language, QString taken) override;
+
+private:
+    std::unique_ptr<Ui::MainGunsPage> m_ui;
+};
+
+} // namespace torvane
