@@ -127,6 +127,9 @@ void syncFolderOf(const QString& path)
     }
 }
 
+/// Of a new file, before the user's mask.
+constexpr mode_t usualRights = 0666;
+
 } // namespace
 
 QByteArray readWholeFile(const QString& path)
@@ -171,7 +174,13 @@ void writeScratchFile(const QString& path, QByteArrayView bytes)
     if (!file.isOpen()) {
         throw folderError(path, errno);
     }
+    // Made for its owner alone; it gets the rights of any other file.
+    const mode_t mask = ::umask(0);
+    ::umask(mask);
     try {
+        if (::fchmod(file.handle(), usualRights & ~mask) != 0) {
+            throw fileError(path, errno);
+        }
         writeAll(file, path, bytes);
         if (!file.close() || ::rename(name.constData(), target.constData()) != 0) {
             throw fileError(path, errno);

@@ -1,6 +1,7 @@
 #include "support/input.h"
 
 #include <QAction>
+#include <QCheckBox>
 #include <QDeadlineTimer>
 #include <QMenu>
 #include <QMenuBar>
@@ -8,6 +9,9 @@
 #include <QTest>
 
 namespace torvane::testing {
+
+// From the left edge of a check box to the middle of its box, in pixels.
+static constexpr int boxMiddle = 8;
 
 void settle()
 {
@@ -31,7 +35,10 @@ bool waitUntil(const std::function<bool()>& condition, int milliseconds)
 
 void click(QWidget* control)
 {
-    QTest::mouseClick(control, Qt::LeftButton);
+    // A check box takes clicks where its box and its text are, which need not reach its middle.
+    const bool isBox = qobject_cast<QCheckBox*>(control) != nullptr;
+    QTest::mouseClick(control, Qt::LeftButton, Qt::NoModifier,
+                      isBox ? QPoint(boxMiddle, control->height() / 2) : QPoint());
     settle();
 }
 

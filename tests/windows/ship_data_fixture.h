@@ -51,6 +51,8 @@ protected:
         file.addClass("Deutschland",
                       {{"f", "3000"}, {"g", "600"}, {"h", "10"}, {"o", "1"}, {"TurA", "3"}, {"TurZ", "3"}});
         file.addClass("Nothing");
+        file.addClass("D class leader", {{"f", "100"}, {"TurA", "1"}});
+        file.addClass("Benson", {{"f", "120"}, {"TurA", "1"}});
         file.addClass("Too much", {{"o", "40000"}});
     }
 
