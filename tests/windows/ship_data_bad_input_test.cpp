@@ -6,7 +6,7 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-class BadShipData : public ShipDialog
+class BadShipData : public OneShipDialog
 {
 protected:
     /// Values of all keys of a section that the dialog doesn't own.

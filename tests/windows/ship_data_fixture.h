@@ -19,10 +19,10 @@
 namespace torvane::testing {
 
 /// Runs with a small catalogue and a scenario, in which ships are opened through the Edit Ship menu.
-class ShipDialog : public EditorFixture
+class OneShipDialog : public EditorFixture
 {
 protected:
-    ShipDialog()
+    OneShipDialog()
     {
         CatalogueFile file(workFile(QStringLiteral("ShipDatabase.mdb")));
         file.addShip("Exeter", "Exeter", "CA", "York", "RN");

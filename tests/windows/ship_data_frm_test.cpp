@@ -9,7 +9,7 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-class ShipDataWindow : public ShipDialog
+class ShipDataWindow : public OneShipDialog
 {
 };
 

@@ -7,7 +7,7 @@ using namespace Qt::StringLiterals;
 
 constexpr std::string_view letters = "ABCDEGHIJLMNOQRTUXYZ";
 
-class ShipGunPages : public ShipDialog
+class ShipGunPages : public OneShipDialog
 {
 protected:
     QCheckBox* turret(char letter) { return box(("chkMG_TUR_" + std::string(1, letter)).c_str()); }

@@ -21,7 +21,7 @@ const PageCase pageCases[] = {{generalPage, nullptr},         {systemsPage, null
                               {mainGunsPage, nullptr},        {secondaryPage, nullptr},
                               {torpedoPage, nullptr}};
 
-class ShipDataLooks : public ShipDialog, public ::testing::WithParamInterface<std::tuple<int, Language>>
+class ShipDataLooks : public OneShipDialog, public ::testing::WithParamInterface<std::tuple<int, Language>>
 {
 protected:
     void SetUp() override

@@ -21,7 +21,7 @@ constexpr Row rows[] = {
     {"cmdRepairRadar", "lblRadarDam", "chkRadar", "RADARDAMAGE"},
 };
 
-class ShipSystemsPage : public ShipDialog
+class ShipSystemsPage : public OneShipDialog
 {
 protected:
     void openWith(const char* key, const char* value, Language language = Language::English)
