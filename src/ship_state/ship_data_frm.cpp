@@ -62,6 +62,9 @@ void ShipDataFrm::addPages()
         m_ui->TabStrip1->addTab(QString());
         connectPage(*page);
     }
+    // The pages came after the buttons, but are met before them.
+    setTabOrder(m_pages.back()->boxes().back().box, m_ui->cmdSave);
+    setTabOrder(m_ui->cmdSave, m_ui->CmdCancel);
     m_ui->TabStrip1->setExpanding(false);
     m_ui->TabStrip1->setUsesScrollButtons(false);
     on(m_ui->TabStrip1, &QTabBar::currentChanged, [this](int page) { m_ui->pages->setCurrentIndex(page); });
