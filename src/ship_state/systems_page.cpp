@@ -66,6 +66,7 @@ void SystemsPage::addRepair(std::size_t row)
     m_ui->repairs->addWidget(repair.summary, static_cast<int>(row), 1);
     m_ui->repairTimes->addWidget(repair.time);
     m_ui->repairBoxes->addWidget(repair.box);
+    QWidget::setTabOrder(m_ui->cmdTimeUp, repair.box); // as they stand in the panel, its OK behind them
     repair.time->hide();
     repair.box->hide();
     addButton(repair.button, [this, row] { openRepair(row); });

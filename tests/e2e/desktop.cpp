@@ -14,7 +14,7 @@ namespace torvane::testing {
 
 namespace {
 
-constexpr int keyDelay = 15; // milliseconds between two keys
+constexpr int keyDelay = 6; // milliseconds between two keys
 
 } // namespace
 

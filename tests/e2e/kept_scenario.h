@@ -1,5 +1,6 @@
 #pragma once
 
+#include "e2e/desktop.h"
 #include "platform/language.h"
 #include "support/printers.h"
 
@@ -38,6 +39,21 @@ inline QStringList linesOf(const QString& path)
     return QString::fromLatin1(bytesOf(path)).split(QStringLiteral("\r\n"));
 }
 
+/// A folder beside the test's program for what people look at afterwards.
+inline QDir outputFolder(const char* name)
+{
+    const QDir folder(QStringLiteral(TORVANE_OUTPUT_DIR "/") + QLatin1StringView(name));
+    folder.mkpath(QStringLiteral("."));
+    return folder;
+}
+
+/// Keeps what the window in front shows, in the folder `pictures`.
+inline void keepPicture(const Desktop& desktop, const QString& name)
+{
+    EXPECT_TRUE(
+        desktop.activePicture().save(outputFolder("pictures").filePath(name + QStringLiteral(".png"))));
+}
+
 /// Expects a saved scenario to be the kept one, byte for byte. One that isn't is put beside the test's
 /// program, in the folder `saved`, for a comparison.
 inline void expectKept(const QString& saved, const char* road, Language language)
@@ -46,9 +62,7 @@ inline void expectKept(const QString& saved, const char* road, Language language
     EXPECT_EQ(linesOf(saved), linesOf(kept));
     EXPECT_TRUE(bytesOf(saved) == bytesOf(kept));
     if (::testing::Test::HasFailure()) {
-        const QDir folder(QStringLiteral(TORVANE_OUTPUT_DIR "/saved"));
-        folder.mkpath(QStringLiteral("."));
-        const QString copy = folder.filePath(QString(kept).section(QLatin1Char('/'), -1));
+        const QString copy = outputFolder("saved").filePath(QString(kept).section(QLatin1Char('/'), -1));
         QFile::remove(copy);
         QFile::copy(saved, copy);
     }

@@ -42,13 +42,6 @@ protected:
         EXPECT_EQ(run.value(leader, QStringLiteral("ZPOSITION")), z);
     }
 
-    void keepPicture(const QString& name)
-    {
-        const QDir pictures(QStringLiteral(TORVANE_OUTPUT_DIR "/pictures"));
-        pictures.mkpath(QStringLiteral("."));
-        ASSERT_TRUE(desktop.activePicture().save(pictures.filePath(name + QStringLiteral(".png"))));
-    }
-
     Desktop desktop;
     GameFolder folder;
     EditorRun run{desktop, folder, Language::English};
@@ -79,7 +72,7 @@ TEST_F(MapByHand, ThreeDivisionsATargetAndAMeasureLineAreSetByTheMouse)
     run.moveOnMap(b + QPoint(40, 20)); // the first move finishes the line
     run.expect(QStringLiteral("the measured line"),
                [&] { return pixelsOf(run.mapPicture(), measureYellow) >= b.x() - a.x(); });
-    keepPicture(QStringLiteral("map_by_hand"));
+    keepPicture(desktop, QStringLiteral("map_by_hand"));
 
     const QImage map = run.mapPicture();
     for (int x = a.x(); x < a.x() + 20; ++x) {
