@@ -200,6 +200,8 @@ void ShipGrid::goToRow(int row)
 {
     setCurrentIndex(model()->index(row, sectionOf(ShipColumn::Name)));
     scrollTo(currentIndex(), QAbstractItemView::PositionAtTop);
+    // From the left end: a bar that has this value already would leave the columns where a resize put them.
+    horizontalScrollBar()->setValue(0);
     horizontalScrollBar()->setValue(sectionOf(ShipColumn::Type));
 }
 

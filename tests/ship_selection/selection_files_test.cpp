@@ -144,6 +144,8 @@ TEST_F(SelectionFiles, WhatCannotBeWrittenLeavesListTrackAndCounts)
 {
     openWithTwo();
     const QStringList before = track();
+    // Readable for the user as whom the folder is tried.
+    QFile::setPermissions(files.shipTrack(), QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup);
     const QDir::Filters all = QDir::Files | QDir::Hidden;
     const QStringList filesBefore = QDir(folder()).entryList(all);
     {
