@@ -14,6 +14,7 @@
 #include <QHeaderView>
 #include <QIcon>
 #include <QKeyEvent>
+#include <QScopeGuard>
 
 // The settings of the division dialog, which are locked or open, and its list of ships.
 
