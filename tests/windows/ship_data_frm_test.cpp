@@ -351,7 +351,7 @@ TEST_F(ShipDataWindow, ADuncanIsShownAgainstTheShipBeforeIt)
     cancel();
     open(u"DD Duncan RN"_s);
     EXPECT_EQ(shown("lblHitPt"), u"25 %"_s);
-    EXPECT_TRUE(box("chkMG_TUR_B")->isVisibleTo(&dialog()));
+    EXPECT_FALSE(box("chkMG_TUR_B")->isHidden());
     EXPECT_TRUE(box("chkBridge")->isChecked());
 }
 
