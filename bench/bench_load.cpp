@@ -117,8 +117,8 @@ public:
     Editor editor{m_folder.path(), {.language = Language::English}, m_services.services()};
 };
 
-/// The scenario's bytes read, and the files that a load leaves deleted and written, each in one piece. Nothing
-/// is synced.
+/// The scenario's bytes read, and the files that a load leaves deleted and written, each in one piece.
+/// Nothing is synced.
 void floorOfTheSameFiles(benchmark::State& state)
 {
     Run run;
