@@ -6,7 +6,7 @@ function(torvane_add_tests name)
     add_executable(${name} ${arg_SOURCES})
     target_link_libraries(${name} PRIVATE GTest::gmock torvane_warnings)
     target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR}/tests)
-    set(environment "QT_QPA_PLATFORM=offscreen")
+    set(scale "")
     set(prefix "")
     if(arg_WINDOWS)
         target_link_libraries(${name} PRIVATE torvane_window_test_support torvane_editor Qt6::Test)
@@ -14,12 +14,13 @@ function(torvane_add_tests name)
         target_link_libraries(${name} PRIVATE torvane_test_support torvane_core)
     endif()
     if(arg_SCALE)
-        list(APPEND environment "QT_SCALE_FACTOR=${arg_SCALE}")
+        # A property of its own: the discovery takes a list of variables apart.
+        set(scale ENVIRONMENT_MODIFICATION QT_SCALE_FACTOR=set:${arg_SCALE})
         set(prefix "Scale${arg_SCALE}.")
     endif()
     gtest_discover_tests(${name}
         TEST_PREFIX "${prefix}"
         DISCOVERY_MODE PRE_TEST
         DISCOVERY_TIMEOUT 60
-        PROPERTIES TIMEOUT 120 ENVIRONMENT "${environment}")
+        PROPERTIES TIMEOUT 120 ENVIRONMENT QT_QPA_PLATFORM=offscreen ${scale})
 endfunction()
