@@ -49,15 +49,11 @@ protected:
     template <typename Sender, typename Signal, typename Handler>
     void on(Sender* sender, Signal signal, Handler handler)
     {
-        connect(sender, signal, this, [this, handler = std::move(handler)](auto... arguments) {
-            m_formStack.runHandler([&] {
-                if constexpr (std::is_invocable_v<Handler, decltype(arguments)...>) {
-                    handler(arguments...);
-                } else {
-                    handler();
-                }
-            });
-        });
+        static_assert(Fits<Handler, Signal>::value, "the handler takes the signal's arguments or none");
+        const auto call = [this, handler = std::move(handler)](const auto&... arguments) {
+            m_formStack.runHandler([&] { callHandler(handler, arguments...); });
+        };
+        connect(sender, signal, this, call);
     }
 
     /// Runs something that Qt calls through a virtual function rather than a signal, as `on` does.
@@ -82,6 +78,26 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    template <typename Handler, typename Signal>
+    struct Fits;
+    template <typename Handler, typename Class, typename... Arguments>
+    struct Fits<Handler, void (Class::*)(Arguments...)>
+        : std::bool_constant<std::is_invocable_v<const Handler&, const Arguments&...> ||
+                             std::is_invocable_v<const Handler&>>
+    {
+    };
+
+    // Also compiled for fewer arguments than the signal has, with which it is never called.
+    template <typename Handler, typename... Arguments>
+    static void callHandler(const Handler& handler, const Arguments&... arguments)
+    {
+        if constexpr (std::is_invocable_v<const Handler&, const Arguments&...>) {
+            handler(arguments...);
+        } else if constexpr (std::is_invocable_v<const Handler&>) {
+            handler();
+        }
+    }
+
     void watch(QObject* object);
     void placeAbove(const Form& opener);
 

@@ -77,7 +77,7 @@ private:
     qint64 across(qint64 offset) const
     {
         const auto square = static_cast<double>(m_radius * m_radius - offset * offset);
-        return static_cast<qint64>(std::sqrt(square) + 0.5);
+        return std::llround(std::sqrt(square));
     }
     void put(qint64 x, qint64 y)
     {

@@ -316,7 +316,7 @@ void MainFrm::keyPressEvent(QKeyEvent* event)
         bar->setActiveAction(bar->actions().constFirst());
         bar->setFocus(Qt::MenuBarFocusReason);
     } else {
-        Form::keyPressEvent(event);
+        EditorForm::keyPressEvent(event);
     }
 }
 
