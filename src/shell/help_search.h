@@ -15,7 +15,7 @@ struct HelpPlace
     int position = 0; ///< in the chapter's plain text
 
     bool operator==(const HelpPlace&) const = default;
-    auto operator<=>(const HelpPlace&) const = default;
+    auto operator<=>(const HelpPlace&) const = default; // NOLINT(modernize-use-nullptr): mistaken for a 0
 };
 
 /// The places at which a text stands in the guide, capitals or not.
