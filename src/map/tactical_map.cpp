@@ -229,6 +229,7 @@ void TacticalMap::saveDivPosition()
 {
     drawScaleBars();
     drawCursorCoordinates();
+    updateGridIndex();
     drawMarks(m_surface.map(), grid());
     FormationPlacement placement(m_editor.workingProfile(), m_editor.shipCatalogue(), m_state.view);
     placement.findDivisionToPlace(m_repositionKey, day());
