@@ -2,9 +2,9 @@
 
 #include "divisions/division_settings.h"
 #include "divisions/division_texts.h"
-#include "overview/dialog_texts.h"
 #include "overview/force_colors.h"
 #include "overview/overview_frm.h"
+#include "platform/control_captions.h"
 #include "platform/list_combo.h"
 #include "platform/mnemonics.h"
 #include "platform/picture_box.h"

@@ -4,6 +4,7 @@
 #include "overview/overview_frm.h"
 #include "overview/overview_texts.h"
 #include "overview/overview_tips.h"
+#include "platform/control_captions.h"
 #include "platform/list_combo.h"
 #include "platform/mnemonics.h"
 #include "platform/step_button.h"

@@ -6,6 +6,7 @@
 #include "overview/force_colors.h"
 #include "overview/overview_rules.h"
 #include "overview/overview_tips.h"
+#include "platform/control_captions.h"
 #include "platform/list_combo.h"
 #include "platform/mnemonics.h"
 #include "platform/step_button.h"

@@ -168,13 +168,6 @@ QStringList plainList(QStringView control)
 
 } // namespace
 
-QString captionOf(std::span<const CaptionRow> table, QStringView control, Language language)
-{
-    const auto row = std::ranges::find_if(
-        table, [&](const CaptionRow& candidate) { return candidate.control == control; });
-    return row == table.end() ? QString() : row->caption.in(language);
-}
-
 QString overviewMessage(OverviewMessage message, Language language)
 {
     return textIn(overviewMessages, message, language);

@@ -1,8 +1,7 @@
 #pragma once
 
-#include "platform/bilingual.h"
+#include "platform/caption_table.h"
 
-#include <QLatin1StringView>
 #include <QStringList>
 #include <QStringView>
 
@@ -11,22 +10,12 @@
 
 namespace torvane {
 
-/// What a control shows, by the control's design name.
-struct CaptionRow
-{
-    QLatin1StringView control;
-    Bilingual caption;
-};
-
 /// Captions of the overview dialog; the form's own name stands for its title bar.
 extern const std::array<CaptionRow, 18> overviewCaptions;
 /// Captions of the environment dialog's form and buttons.
 extern const std::array<CaptionRow, 11> environmentCaptions;
 /// Labels of the environment dialog, by the control that they stand at.
 extern const std::array<CaptionRow, 14> environmentLabels;
-
-/// The caption of a control in one of the tables; empty if the table has none.
-QString captionOf(std::span<const CaptionRow> table, QStringView control, Language language);
 
 /// Messages of both dialogs.
 enum class OverviewMessage { OutOfRangeTitle, HeadingRange, ModifierRange, WindSpeedRange };

@@ -1,6 +1,6 @@
 #include "shell/help_frm.h"
 
-#include "overview/dialog_texts.h"
+#include "platform/control_captions.h"
 #include "shell/help_texts.h"
 #include "ui_help_frm.h"
 

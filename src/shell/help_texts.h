@@ -1,7 +1,7 @@
 #pragma once
 
-#include "overview/overview_texts.h"
 #include "platform/bilingual.h"
+#include "platform/caption_table.h"
 
 #include <array>
 

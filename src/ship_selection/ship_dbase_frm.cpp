@@ -1,7 +1,7 @@
 #include "ship_selection/ship_dbase_frm.h"
 
 #include "divisions/create_division_frm.h"
-#include "overview/dialog_texts.h"
+#include "platform/control_captions.h"
 #include "platform/pointer.h"
 #include "shell/captions.h"
 #include "shell/editor.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "overview/overview_texts.h"
+#include "platform/caption_table.h"
 #include "ship_selection/selection_rules.h"
 
 namespace torvane {

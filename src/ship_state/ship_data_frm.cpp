@@ -1,6 +1,6 @@
 #include "ship_state/ship_data_frm.h"
 
-#include "overview/dialog_texts.h"
+#include "platform/control_captions.h"
 #include "platform/list_combo.h"
 #include "platform/mnemonics.h"
 #include "platform/step_button.h"

@@ -25,17 +25,23 @@ TEST(Damage, MinusOneAloneIsDestroyed)
     }
 }
 
+/// An amount of a maximum and its share in percent, as it is shown and read.
+struct Share
+{
+    const char* amount;
+    int maximum;
+    const char* percent;
+};
+
 TEST(Percent, IsShownInFullAndUnrounded)
 {
-    EXPECT_EQ(percentShown(u"2"_s, 3), u"66.6666666666667 %"_s);
-    EXPECT_EQ(percentShown(u"2000"_s, 2000), u"100 %"_s);
-    EXPECT_EQ(percentShown(u"37.5"_s, 75), u"50 %"_s);
-    EXPECT_EQ(percentShown(u"1"_s, 1000), u"0.1 %"_s);
-    EXPECT_EQ(percentShown(u"300"_s, 200), u"150 %"_s);
-    EXPECT_EQ(percentShown(u"-5"_s, 100), u"-5 %"_s);
-    EXPECT_EQ(percentShown(u"INVALID"_s, 100), u"0 %"_s);
-    EXPECT_EQ(percentShown(u"many"_s, 100), u"0 %"_s);
-    EXPECT_EQ(percentShown(u"1E20"_s, 1), u"1E+22 %"_s);
+    for (const Share& share :
+         {Share{"2", 3, "66.6666666666667 %"}, Share{"2000", 2000, "100 %"}, Share{"37.5", 75, "50 %"},
+          Share{"1", 1000, "0.1 %"}, Share{"300", 200, "150 %"}, Share{"-5", 100, "-5 %"},
+          Share{"INVALID", 100, "0 %"}, Share{"many", 100, "0 %"}, Share{"1E20", 1, "1E+22 %"}}) {
+        EXPECT_EQ(percentShown(QString::fromLatin1(share.amount), share.maximum),
+                  QLatin1StringView(share.percent));
+    }
 }
 
 TEST(Percent, OfAMaximumOfZeroIsZero)
@@ -46,12 +52,12 @@ TEST(Percent, OfAMaximumOfZeroIsZero)
 
 TEST(Percent, OfTheMaximumIsStoredInItsShortestForm)
 {
-    EXPECT_EQ(amountOf(u"100 %"_s, 2000), u"2000"_s);
-    EXPECT_EQ(amountOf(u"33 %"_s, 2000), u"660"_s);
-    EXPECT_EQ(amountOf(u"50 %"_s, 75), u"37.5"_s);
-    EXPECT_EQ(amountOf(u"75 %"_s, 120), u"90"_s);
-    EXPECT_EQ(amountOf(u"66.6666666666667 %"_s, 3), u"2"_s);
-    EXPECT_EQ(amountOf(u"-5 %"_s, 100), u"-5"_s);
+    for (const Share& share :
+         {Share{"2000", 2000, "100 %"}, Share{"660", 2000, "33 %"}, Share{"37.5", 75, "50 %"},
+          Share{"90", 120, "75 %"}, Share{"2", 3, "66.6666666666667 %"}, Share{"-5", 100, "-5 %"}}) {
+        EXPECT_EQ(amountOf(QString::fromLatin1(share.percent), share.maximum),
+                  QLatin1StringView(share.amount));
+    }
 }
 
 TEST(Percent, BeyondAllNumbersIsAnOverflowThatNamesTheValue)
@@ -66,32 +72,38 @@ TEST(Percent, BeyondAllNumbersIsAnOverflowThatNamesTheValue)
     }
 }
 
+/// A value before and after one press of its stepper.
+struct Press
+{
+    const char* before;
+    Step step;
+    const char* after;
+};
+
 TEST(PercentStepper, GoesRoundBetween0And100)
 {
-    EXPECT_EQ(steppedPercent(u"99 %"_s, Step::Up), u"100 %"_s);
-    EXPECT_EQ(steppedPercent(u"100 %"_s, Step::Up), u"0 %"_s);
-    EXPECT_EQ(steppedPercent(u"0 %"_s, Step::Up), u"1 %"_s);
-    EXPECT_EQ(steppedPercent(u"1 %"_s, Step::Down), u"0 %"_s);
-    EXPECT_EQ(steppedPercent(u"0 %"_s, Step::Down), u"100 %"_s);
-    EXPECT_EQ(steppedPercent(u"100 %"_s, Step::Down), u"99 %"_s);
+    for (const Press& press : {Press{"99 %", Step::Up, "100 %"}, Press{"100 %", Step::Up, "0 %"},
+                               Press{"0 %", Step::Up, "1 %"}, Press{"1 %", Step::Down, "0 %"},
+                               Press{"0 %", Step::Down, "100 %"}, Press{"100 %", Step::Down, "99 %"}}) {
+        EXPECT_EQ(steppedPercent(QString::fromLatin1(press.before), press.step),
+                  QLatin1StringView(press.after));
+    }
 }
 
 TEST(PercentStepper, TakesTheFirstThreeCharactersRounded)
 {
-    EXPECT_EQ(steppedPercent(u"66.6666666666667 %"_s, Step::Up), u"67 %"_s);
-    EXPECT_EQ(steppedPercent(u"66.6666666666667 %"_s, Step::Down), u"65 %"_s);
-    EXPECT_EQ(steppedPercent(u"0.7 %"_s, Step::Up), u"2 %"_s);
-    EXPECT_EQ(steppedPercent(u"0.5 %"_s, Step::Up), u"1 %"_s);
-    EXPECT_EQ(steppedPercent(u"1234 %"_s, Step::Up), u"0 %"_s);
-    EXPECT_EQ(steppedPercent(u"1234 %"_s, Step::Down), u"122 %"_s);
-    EXPECT_EQ(steppedPercent(u"-20 %"_s, Step::Up), u"-19 %"_s);
-    EXPECT_EQ(steppedPercent(u"-20 %"_s, Step::Down), u"100 %"_s);
-    EXPECT_EQ(steppedPercent(u"100"_s, Step::Down), u"99 %"_s);
-    EXPECT_EQ(steppedPercent(u"INVALID"_s, Step::Up), u"1 %"_s);
-    EXPECT_EQ(steppedPercent(QString(), Step::Down), u"100 %"_s);
+    for (const Press& press :
+         {Press{"66.6666666666667 %", Step::Up, "67 %"}, Press{"66.6666666666667 %", Step::Down, "65 %"},
+          Press{"0.7 %", Step::Up, "2 %"}, Press{"0.5 %", Step::Up, "1 %"}, Press{"1234 %", Step::Up, "0 %"},
+          Press{"1234 %", Step::Down, "122 %"}, Press{"-20 %", Step::Up, "-19 %"},
+          Press{"-20 %", Step::Down, "100 %"}, Press{"100", Step::Down, "99 %"},
+          Press{"INVALID", Step::Up, "1 %"}, Press{"", Step::Down, "100 %"}}) {
+        EXPECT_EQ(steppedPercent(QString::fromLatin1(press.before), press.step),
+                  QLatin1StringView(press.after));
+    }
 }
 
-TEST(Share, OfABarStaysBetween0And1)
+TEST(BarShare, StaysBetween0And1)
 {
     EXPECT_DOUBLE_EQ(shareShown(u"66.5 %"_s, 100), 0.665);
     EXPECT_DOUBLE_EQ(shareShown(u"150 %"_s, 100), 1);
@@ -102,13 +114,13 @@ TEST(Share, OfABarStaysBetween0And1)
 
 TEST(FireLevel, GoesRoundBetween0And10)
 {
-    EXPECT_EQ(steppedFireLevel(u"9"_s, Step::Up), u"10"_s);
-    EXPECT_EQ(steppedFireLevel(u"10"_s, Step::Up), u"0"_s);
-    EXPECT_EQ(steppedFireLevel(u"11"_s, Step::Up), u"0"_s);
-    EXPECT_EQ(steppedFireLevel(u"1"_s, Step::Down), u"0"_s);
-    EXPECT_EQ(steppedFireLevel(u"0"_s, Step::Down), u"10"_s);
-    EXPECT_EQ(steppedFireLevel(u"-3"_s, Step::Down), u"10"_s);
-    EXPECT_EQ(steppedFireLevel(u"INVALID"_s, Step::Up), u"1"_s);
+    for (const Press& press :
+         {Press{"9", Step::Up, "10"}, Press{"10", Step::Up, "0"}, Press{"11", Step::Up, "0"},
+          Press{"1", Step::Down, "0"}, Press{"0", Step::Down, "10"}, Press{"-3", Step::Down, "10"},
+          Press{"INVALID", Step::Up, "1"}}) {
+        EXPECT_EQ(steppedFireLevel(QString::fromLatin1(press.before), press.step),
+                  QLatin1StringView(press.after));
+    }
 }
 
 } // namespace

@@ -196,38 +196,37 @@ TEST(RepairTime, StopsAt210And0)
     }
 }
 
+/// Presses a row's stepper once and expects the time and the box behind it.
+void expectStepped(RepairState& state, const char* key, Step step, const char* time, bool destroyed)
+{
+    stepRepairTime(state, row(key), step);
+    EXPECT_EQ(state.time, QLatin1StringView(time));
+    EXPECT_EQ(state.destroyed, destroyed);
+}
+
 TEST(RepairTime, AtItsLimitLeavesTheBoxTicked)
 {
     RepairState state{.time = u"210"_s, .destroyed = true};
-    stepRepairTime(state, row("RADAR"), Step::Up);
-    EXPECT_TRUE(state.destroyed);
-    EXPECT_EQ(state.time, u"210"_s);
+    expectStepped(state, "RADAR", Step::Up, "210", true);
 }
 
 TEST(RepairTime, TheFirstPressOnATickedRowClearsTheBoxAndTheSecondGives1)
 {
     RepairState state{.time = u"0"_s, .destroyed = true};
-    stepRepairTime(state, row("BRIDGE"), Step::Up);
-    EXPECT_FALSE(state.destroyed);
-    EXPECT_EQ(state.time, u"0"_s);
-    stepRepairTime(state, row("BRIDGE"), Step::Up);
-    EXPECT_EQ(state.time, u"1"_s);
+    expectStepped(state, "BRIDGE", Step::Up, "0", false);
+    expectStepped(state, "BRIDGE", Step::Up, "1", false);
 }
 
 TEST(RepairTime, OnATickedManeuveringRowCountsAtOnce)
 {
     RepairState state{.time = u"5"_s, .destroyed = true};
-    stepRepairTime(state, row("MAN"), Step::Up);
-    EXPECT_FALSE(state.destroyed);
-    EXPECT_EQ(state.time, u"6"_s);
+    expectStepped(state, "MAN", Step::Up, "6", false);
 }
 
 TEST(RepairTime, DownLeavesTheBoxAlone)
 {
     RepairState state{.time = u"5"_s, .destroyed = true};
-    stepRepairTime(state, row("RADAR"), Step::Down);
-    EXPECT_TRUE(state.destroyed);
-    EXPECT_EQ(state.time, u"4"_s);
+    expectStepped(state, "RADAR", Step::Down, "4", true);
 }
 
 TEST(RepairTime, OfWordsCountsFrom0)

@@ -1,3 +1,5 @@
+#include "divisions/division_texts.h"
+#include "support/shown_captions.h"
 #include "windows/division_fixture.h"
 
 namespace torvane::testing {
@@ -9,38 +11,9 @@ class DivisionWindow : public DivisionDialogs
 
 TEST_F(DivisionWindow, HasItsCaptionsInBothLanguages)
 {
-    const char* const rows[][3] = {
-        {"CmdAdd", "&Add/Remove Ships", "Schiffe hinzufügen"},
-        {"CmdFlagShip", "Change &Flagship", "Flaggschiff ändern"},
-        {"CmdCancel", "&Cancel", "Abbrechen"},
-        {"CmdEditCancel", "&Cancel", "Abbrechen"},
-        {"CmdSaveData", "&Save Division", "Speichern"},
-        {"cmdOK", "&Save Division", "Speichern"},
-        {"cmdKeepDivData", "Keep Division Data", "Verbandsdaten beibehalten"},
-        {"cmdDivDataChng", "Change Division Data", "Verbandsdaten ändern"},
-        {"CmdEditShip", "&Edit Ships", "&Edit Ships"},
-        {"CmdNewDivision", "Add &Division", "Add &Division"},
-    };
     for (const Language language : {Language::English, Language::German}) {
-        const int column = language == Language::German ? 2 : 1;
         startPastSplash(language);
-        for (const auto& row : rows) {
-            EXPECT_EQ(push(row[0])->text(), QString::fromUtf8(row[column])) << row[0];
-        }
-        const char* const labels[][3] = {
-            {"Label6", "Force:", "Verband:"},         {"Label3", "Heading:", "Kurs:"},
-            {"Label5", "Formation:", "Formation:"},   {"Label4", "Spacing:", "Abstand:"},
-            {"Label2", "Speed:", "Geschwindigkeit:"}, {"Label1", "Encumbered:", "Behindert:"}};
-        for (const auto& row : labels) {
-            EXPECT_EQ(plain(caption(row[0])), QString::fromUtf8(row[column])) << row[0];
-        }
-        EXPECT_EQ(option("optEncumYES")->text(),
-                  QString::fromUtf8(language == Language::German ? "Ja" : "Yes"));
-        EXPECT_EQ(option("optEncumNO")->text(),
-                  QString::fromUtf8(language == Language::German ? "Nein" : "No"));
-        EXPECT_EQ(dialog().windowTitle(),
-                  QString::fromUtf8(language == Language::German ? "Torvane - Verband erstellen/bearbeiten"
-                                                                 : "Torvane - Create/Edit Divisions"));
+        expectCaptions(dialog(), divisionCaptions, language);
     }
 }
 

@@ -1,5 +1,7 @@
 #include "platform/picture_box.h"
+#include "ship_selection/ship_texts.h"
 #include "ship_selection_fixture.h"
+#include "support/shown_captions.h"
 
 #include <QHeaderView>
 #include <QScrollBar>
@@ -29,42 +31,9 @@ protected:
 
 TEST_F(ShipBrowserWindow, EveryCaptionIsThatOfTheLanguage)
 {
-    struct Caption
-    {
-        const char* control;
-        const char* english;
-        const char* german;
-    };
-    const Caption captions[] = {
-        {"CmdSortSrch", "Sort OFF", "Sortierung AUS"},
-        {"CmdShipSrch", "Ship Search", "Schiff suchen"},
-        {"OptClass", "Type", "Typ"},
-        {"OptName", "Name", "Name"},
-        {"OptType", "Class", "Klasse"},
-        {"OptNavy", "Hit Pts/Fl Pts", "Pkt-R/Pkt-W"},
-        {"optFilterRN", "Royal Navy", "Royal Navy"},
-        {"optFilterKM", "Kriegsmarine", "Kriegsmarine"},
-        {"optFilterUSN", "United States Navy", "United States Navy"},
-        {"optFilterIJN", "Imp Japanese Navy", "Japanische Marine"},
-        {"ChkScrollBars", "Check this box to view more ship data.", "Check this box to view more ship data."},
-        {"CmdRemove", "&Remove Ship", "Schiff entfernen"},
-        {"CmdClear", "Clear All", "Alle löschen"},
-        {"CmdCancel", "&Cancel", "Abbrechen"},
-        {"CmdKeepShips", "&Keep these Ships", "Diese Schiffe beibehalten"},
-    };
     for (const Language language : {Language::English, Language::German}) {
         openShips(language);
-        const bool german = language == Language::German;
-        for (const Caption& row : captions) {
-            EXPECT_EQ(control<QAbstractButton>(ships(), row.control)->text(),
-                      QString::fromUtf8(german ? row.german : row.english));
-        }
-        EXPECT_EQ(control<QGroupBox>(ships(), "Frame1")->title(),
-                  german ? "Schiffe sortieren nach:" : "Sort Ships by:");
-        EXPECT_EQ(control<QGroupBox>(ships(), "Frame2")->title(),
-                  german ? "Marinefilter" : "Force Navy Filter");
-        EXPECT_EQ(ships().windowTitle(),
-                  german ? QStringLiteral("Torvane - Schiffe hinzufügen") : "Torvane - Add/Remove Ships");
+        expectCaptions(ships(), shipCaptions, language);
     }
 }
 
