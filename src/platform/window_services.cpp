@@ -8,6 +8,8 @@
 #include <QMessageBox>
 #include <QPushButton>
 
+#include <memory>
+
 namespace torvane {
 
 namespace {
@@ -59,15 +61,20 @@ QWidget* frontWindow()
     return QApplication::activeWindow();
 }
 
-// "Scenario Files(*.scn)|*.scn" in the form that the window system's box takes.
-QString windowFilter(const QString& filter)
+/// The box for one request. Of a filter like "Scenario Files(*.scn)|*.scn" the window system's box takes the
+/// description, which holds the pattern.
+std::unique_ptr<QFileDialog> fileBox(const FileRequest& request)
 {
-    const QStringList parts = filter.split(QLatin1Char('|'));
-    if (parts.size() != 2) {
-        return filter;
+    return std::make_unique<QFileDialog>(frontWindow(), request.title, request.folder,
+                                         request.filter.section(QLatin1Char('|'), 0, 0));
+}
+
+std::optional<QString> chosen(QFileDialog& window)
+{
+    if (window.exec() != QDialog::Accepted || window.selectedFiles().isEmpty()) {
+        return std::nullopt;
     }
-    const QString description = parts[0].section(QLatin1Char('('), 0, 0).trimmed();
-    return QStringLiteral("%1 (%2)").arg(description, parts[1]);
+    return window.selectedFiles().constFirst();
 }
 
 } // namespace
@@ -117,22 +124,19 @@ std::optional<QString> WindowInputBoxes::ask(const QString& title, const QString
 
 std::optional<QString> WindowFileBoxes::open(const FileRequest& request)
 {
-    const QString file = QFileDialog::getOpenFileName(frontWindow(), request.title, request.folder,
-                                                      windowFilter(request.filter));
-    return file.isEmpty() ? std::nullopt : std::optional(file);
+    const auto window = fileBox(request);
+    window->setFileMode(QFileDialog::ExistingFile);
+    return chosen(*window);
 }
 
 std::optional<QString> WindowFileBoxes::save(const FileRequest& request)
 {
-    QFileDialog window(frontWindow(), request.title, request.folder, windowFilter(request.filter));
-    window.setAcceptMode(QFileDialog::AcceptSave);
-    window.setOption(QFileDialog::DontConfirmOverwrite);
-    window.setDefaultSuffix(request.defaultSuffix);
-    window.selectFile(request.fileName);
-    if (window.exec() != QDialog::Accepted || window.selectedFiles().isEmpty()) {
-        return std::nullopt;
-    }
-    return window.selectedFiles().constFirst();
+    const auto window = fileBox(request);
+    window->setAcceptMode(QFileDialog::AcceptSave);
+    window->setOption(QFileDialog::DontConfirmOverwrite);
+    window->setDefaultSuffix(request.defaultSuffix);
+    window->selectFile(request.fileName);
+    return chosen(*window);
 }
 
 } // namespace torvane

@@ -5,6 +5,7 @@
 #include "map/zoom_level_frm.h"
 #include "overview/enviro_frm.h"
 #include "overview/overview_frm.h"
+#include "platform/error_names.h"
 #include "shell/about_frm.h"
 #include "shell/captions.h"
 #include "shell/main_frm.h"
@@ -68,7 +69,7 @@ void Editor::setBasePath(const QString& basePath)
 
 void Editor::report(const RuntimeError& error)
 {
-    m_services.messageBoxes.show({.text = error.text(),
+    m_services.messageBoxes.show({.text = errorBoxText(error, language()),
                                   .title = mainText(MainText::RuntimeErrorTitle, language()),
                                   .icon = MessageBox::Icon::Critical});
 }

@@ -2,6 +2,7 @@
 
 #include <QEvent>
 #include <QPainter>
+#include <QScrollBar>
 #include <QSvgRenderer>
 
 namespace torvane {
@@ -85,6 +86,17 @@ void HelpBrowser::doSetSource(const QUrl& name, QTextDocument::ResourceType type
     static_cast<void>(type);
     if (m_book != nullptr && name.scheme() == helpScheme && m_book->indexOf(name.path())) {
         QTextBrowser::doSetSource(name, QTextDocument::HtmlResource);
+    }
+}
+
+void HelpBrowser::goTo(const QUrl& address)
+{
+    if (address != source()) {
+        setSource(address);
+    } else if (address.hasFragment()) {
+        scrollToAnchor(address.fragment());
+    } else {
+        verticalScrollBar()->setValue(0);
     }
 }
 

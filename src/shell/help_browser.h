@@ -20,6 +20,8 @@ public:
 
     /// The address of a chapter or section.
     static QUrl addressOf(const QString& chapter, const QString& anchor = QString());
+    /// Shows an address from its beginning, also where it is the one that is shown.
+    void goTo(const QUrl& address);
     /// The chapter that is shown.
     QString chapter() const { return source().path(); }
 

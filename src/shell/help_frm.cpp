@@ -67,6 +67,9 @@ void HelpFrm::connectControls()
             m_ui->txtGuide->setSource(item->data(0, Qt::UserRole).toUrl());
         }
     });
+    // The entry where the reader is already is the current one: a click on it leads to its beginning.
+    connect(m_ui->treContents, &QTreeWidget::itemClicked, guide,
+            [guide](QTreeWidgetItem* item) { guide->goTo(item->data(0, Qt::UserRole).toUrl()); });
     connect(m_ui->txtFind, &QLineEdit::textChanged, m_ui->lblFound, &QLabel::clear);
     connect(m_ui->txtFind, &QLineEdit::returnPressed, this, [this] { find(Direction::Next); });
     connect(m_ui->cmdFindNext, &QPushButton::clicked, this, [this] { find(Direction::Next); });

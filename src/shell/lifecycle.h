@@ -30,7 +30,7 @@ Paths pathsBelow(const QString& basePath);
 /// The game's program in the game folder: its German or its English one.
 QString gameProgram(const QString& basePath, Language language);
 
-/// The date of this version, and its number and that of the scenario files it writes.
+/// The number of this version, and that of the scenario files it writes.
 inline constexpr QLatin1StringView versionText{"Version 1.02"};
 inline constexpr QLatin1StringView fileVersionText{"File version 64"};
 

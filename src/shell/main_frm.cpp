@@ -138,9 +138,9 @@ void MainFrm::onLoad()
     if (m_editor.debugMode() == 1) {
         showDebugReadOuts();
     }
+    m_started = true; // also where a file of an earlier run resists
     m_editor.scratchFiles().removeLeftovers();
     killFiles();
-    m_started = true;
 }
 
 QString MainFrm::findBasePath()

@@ -64,6 +64,8 @@ public:
     ProgressPanel& progress() { return *m_progress; }
 
     bool helpTagsOn() const { return m_helpTagsOn; }
+    /// Whether the start is past its questions, so that paths and store are there.
+    bool hasStarted() const { return m_started; }
     const TargetArea& targetArea() const { return m_map->state().target.area; }
     /// Where the map has the target area's centre, in yards.
     void placeTargetArea(int x, int z) { m_map->placeTargetArea(x, z); }
@@ -101,7 +103,7 @@ private:
     std::optional<TacticalMap> m_map;
     std::optional<ProgressPanel> m_progress;
     bool m_helpTagsOn = true;
-    bool m_started = false; ///< the store is there
+    bool m_started = false;
 };
 
 } // namespace torvane

@@ -111,14 +111,8 @@ void MainMenu::addRepositionMenuEntry(const QString& /*name*/, const QString& si
     const bool forceA = sideOfWord(side) == Side::Blue;
     int& count = forceA ? m_blueDivisionCount : m_redDivisionCount;
     ++count;
-    if (count > divisionsPerSide) {
-        return;
-    }
-    QAction* entry = action(QLatin1StringView(repositionRow(forceA, count).entry));
-    entry->setText(QStringLiteral("%1 %2").arg(m_divisionWord).arg(count));
-    entry->setVisible(true);
-    if (!forceA && count == 1) {
-        setVisible(QStringLiteral("mnuSeperator3"), true);
+    if (count <= divisionsPerSide) {
+        showRepositionEntry(forceA, count);
     }
 }
 
@@ -129,11 +123,19 @@ void MainMenu::enableForceMenus(int blueDivisions, int redDivisions)
         if (count < 1 || count > divisionsPerSide) {
             continue;
         }
-        setVisible(QLatin1StringView(repositionRow(forceA, count).entry), true);
+        showRepositionEntry(forceA, count);
         setVisible(editEntryName(forceA, count), true);
-        if (!forceA && count == 1) {
-            setVisible(QStringLiteral("mnuSeperator3"), true);
-        }
+    }
+}
+
+// With its number, which the captions of the German program don't have right for Force B.
+void MainMenu::showRepositionEntry(bool forceA, int count)
+{
+    QAction* entry = action(QLatin1StringView(repositionRow(forceA, count).entry));
+    entry->setText(QStringLiteral("%1 %2").arg(m_divisionWord).arg(count));
+    entry->setVisible(true);
+    if (!forceA && count == 1) {
+        setVisible(QStringLiteral("mnuSeperator3"), true);
     }
 }
 

@@ -38,8 +38,8 @@ public:
     /// number within its side. `name` is not used. Anything but "Blue" counts for Force B.
     void addRepositionMenuEntry(const QString& name, const QString& side);
 
-    /// Shows the Edit and Reposition entries of the newest division of each side. What was shown stays shown;
-    /// a count of 0 or beyond 6 shows nothing.
+    /// Shows the Edit and Reposition entries of the newest division of each side, the latter captioned with
+    /// its number. What was shown stays shown; a count of 0 or beyond 6 shows nothing.
     void enableForceMenus(int blueDivisions, int redDivisions);
 
     /// Before each plot: greys the Edit Ship menus and hides their entries of divisions 1 to 4, but for the
@@ -54,6 +54,8 @@ public:
     int redDivisionCount() const { return m_redDivisionCount; }
 
 private:
+    void showRepositionEntry(bool forceA, int count);
+
     QMenuBar* m_bar;
     QHash<QString, QAction*> m_actions;
     QString m_divisionWord;

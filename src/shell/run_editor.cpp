@@ -1,6 +1,7 @@
 #include "shell/run_editor.h"
 
 #include "platform/system_services.h"
+#include "platform/toolkit_texts.h"
 #include "platform/window_services.h"
 #include "shell/captions.h"
 #include "shell/editor.h"
@@ -16,6 +17,8 @@ int runEditor(int& argc, char** argv, Language language)
     QApplication application(argc, argv);
     QApplication::setStyle(QStringLiteral("fusion"));
     QApplication::setQuitOnLastWindowClosed(false);
+
+    const ToolkitTexts toolkitTexts(language);
 
     WindowMessageBoxes messageBoxes(language);
     WindowInputBoxes inputBoxes(language);

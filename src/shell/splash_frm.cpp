@@ -57,7 +57,8 @@ void frmSplash::tick()
 
 void frmSplash::finish()
 {
-    if (m_finished) {
+    // A tick that comes while the start still asks for something waits.
+    if (m_finished || !m_editor.mainFrm().hasStarted()) {
         return;
     }
     m_finished = true;

@@ -1,3 +1,6 @@
+#include "divisions/division_records.h"
+#include "divisions/division_texts.h"
+#include "divisions/speed_limits.h"
 #include "guide/check_guide.h"
 #include "guide/write_guide.h"
 #include "map/map_geometry.h"
@@ -6,11 +9,13 @@
 #include "overview/environment_rules.h"
 #include "overview/missions.h"
 #include "overview/overview_texts.h"
+#include "platform/error_names.h"
 #include "scenario_file/save_texts.h"
 #include "shell/captions.h"
 #include "shell/commands.h"
 #include "shell/help_book.h"
 #include "shell/help_texts.h"
+#include "ship_selection/selection_rules.h"
 #include "ship_selection/ship_texts.h"
 #include "support/printers.h"
 
@@ -179,17 +184,21 @@ TEST(DeliveredGuide, ExplainsWhatTheMainWindowSays)
 
 TEST(DeliveredGuide, ExplainsEveryMessageOfTheDivisionDialog)
 {
-    const Bilingual messages[] = {
-        {"You may only have a maximum of 6 divisions per side.",
-         "Eine Streitkraft kann maximal über 6 Verbände verfügen."},
-        {"You must enter a heading between 0 and 360 degrees.",
-         "Sie müssen einen Wert zwischen 0 und 360 eingeben."},
-        {"Out of Range", "Außer Reichweite"},
-    };
     for (const Language language : bothLanguages) {
         const QString text = wholeText(language);
-        for (const Bilingual& message : messages) {
-            expectExplained(message.in(language), language, text);
+        for (const DivisionText message :
+             {DivisionText::TooManyDivisions, DivisionText::HeadingRange, DivisionText::OutOfRangeTitle}) {
+            expectExplained(divisionText(message, language), language, text);
+        }
+    }
+}
+
+TEST(DeliveredGuide, ExplainsEveryErrorOfTheSystem)
+{
+    for (const Language language : bothLanguages) {
+        const QString text = plainText(chapterHtml(QStringLiteral("messages"), language));
+        for (const ErrorName& error : errorNames) {
+            expectExplained(error.name.in(language), language, text);
         }
     }
 }
@@ -288,6 +297,56 @@ TEST(DeliveredGuide, TellsTheWindOfEverySeaState)
             expected.append(QStringLiteral("%1-%2").arg(band.lowestWind).arg(band.highestWind));
         }
         EXPECT_EQ(rows[0].mid(1), expected);
+    }
+}
+
+TEST(DeliveredGuide, TellsTheSpeedOfEveryTypeInEverySea)
+{
+    constexpr std::array<std::size_t, 5> columns{0, 2, 3, 4, 5}; // BC makes what BB makes
+    for (const Language language : bothLanguages) {
+        const QList<QStringList> rows =
+            tableRows(QStringLiteral("divisions"), QStringLiteral("speed"), language);
+        ASSERT_EQ(rows.size(), static_cast<qsizetype>(seaStateSpeedTable.size()));
+        for (std::size_t sea = 0; sea < seaStateSpeedTable.size(); ++sea) {
+            const auto& speeds = seaStateSpeedTable.at(sea);
+            ASSERT_EQ(speeds[0], speeds[1]);
+            QStringList expected{QString::number(sea + 1)};
+            for (const std::size_t column : columns) {
+                expected.append(QString::number(speeds.at(column)));
+            }
+            EXPECT_EQ(rows[static_cast<qsizetype>(sea)], expected);
+        }
+    }
+}
+
+TEST(DeliveredGuide, TellsHowManyOfEachAScenarioHolds)
+{
+    for (const Language language : bothLanguages) {
+        QStringList most;
+        for (const QStringList& row :
+             tableRows(QStringLiteral("limits"), QStringLiteral("numbers"), language)) {
+            most.append(row.value(2));
+        }
+        EXPECT_EQ(most, (QStringList{QString::number(DivisionRecords::divisionsPerSide),
+                                     QString::number(SelectionRules::shipsPerDivision),
+                                     QString::number(SelectionRules::shipsPerForce),
+                                     QString::number(SelectionRules::shipsPerScenario), "1", "30", "369"}));
+    }
+}
+
+TEST(DeliveredGuide, TellsWhatRadarAndSeaLeaveOfARange)
+{
+    for (const Language language : bothLanguages) {
+        const QString text = plainText(chapterHtml(QStringLiteral("rings"), language));
+        for (const NamedPercent& rating : radarRatings) {
+            EXPECT_TRUE(text.contains(QStringLiteral(" %1 %").arg(rating.percent))) << rating.percent;
+        }
+        for (const SeaPercent& sea : radarSeas) {
+            if (sea.percent > 0) {
+                expectExplained(QStringLiteral("%1: %2 %").arg(sea.seaState).arg(sea.percent), language,
+                                text);
+            }
+        }
     }
 }
 

@@ -45,7 +45,9 @@ INSTANTIATE_TEST_SUITE_P(
                       Expected{MainText::Loading, "Loading...  Please wait.", "Spieldaten werden geladen..."},
                       Expected{MainText::Saving, "Saving File...  Please Wait.", "Datei wird gesichert..."},
                       Expected{MainText::SplashTitle, "SCENARIO EDITOR", "Szenario-Editor"},
-                      Expected{MainText::AboutTitle, "About", "Über"}));
+                      Expected{MainText::AboutTitle, "About", "Über"},
+                      Expected{MainText::RuntimeErrorTitle, "Torvane - Scenario Editor",
+                               "Torvane - Szenario-Editor"}));
 
 TEST(MainTextTable, EveryRowStandsAtItsOwnPlace)
 {

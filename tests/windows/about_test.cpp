@@ -3,6 +3,7 @@
 #include "shell/main_frm.h"
 #include "support/editor_fixture.h"
 
+#include <QLocale>
 #include <QPushButton>
 
 namespace torvane::testing {
@@ -57,6 +58,25 @@ TEST_F(About, PrintsItsTenLinesWithThreeEmptyOnes)
 {
     open();
     EXPECT_EQ(inkedLines(), (QList<bool>{false, true, true, true, false, true, true, false, true, true}));
+}
+
+TEST_F(About, SpeaksTheLanguageAndTellsTheDateAsTheSystemWritesIt)
+{
+    for (const Language language : {Language::German, Language::English}) {
+        open(language);
+        PictureBox same;
+        same.setFont(picture()->font());
+        same.resize(picture()->size());
+        same.setBackColor(picture()->backColor());
+        same.setForeColor(picture()->foreColor());
+        same.clear();
+        for (const QString& line :
+             aboutLines(language, QLocale::system().toString(versionDate(), QLocale::ShortFormat))) {
+            same.setCurrent(QPoint(12, same.current().y()));
+            same.print(line);
+        }
+        EXPECT_EQ(picture()->image(), same.image());
+    }
 }
 
 TEST_F(About, EachActivationPrintsAfresh)

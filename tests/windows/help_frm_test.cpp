@@ -54,6 +54,13 @@ protected:
     HelpFrm& window() const { return *viewer.window(); }
     HelpBrowser& guide() const { return *control<HelpBrowser>(window(), QStringLiteral("txtGuide")); }
     QTreeWidget& contents() const { return *control<QTreeWidget>(window(), QStringLiteral("treContents")); }
+    void clickEntry(QTreeWidgetItem* entry) const
+    {
+        contents().scrollToItem(entry);
+        QTest::mouseClick(contents().viewport(), Qt::LeftButton, Qt::NoModifier,
+                          contents().visualItemRect(entry).center());
+        settle();
+    }
     QPushButton* button(const char* name) const
     {
         return control<QPushButton>(window(), QString::fromLatin1(name));
@@ -136,13 +143,26 @@ TEST_P(Help, AnEntryOfTheContentsOpensItsSection)
         contents().topLevelItem(static_cast<int>(book().indexOf(QStringLiteral("map")).value()));
     map->setExpanded(true);
     QTreeWidgetItem* zoom = map->child(3);
-    contents().scrollToItem(zoom);
-    QTest::mouseClick(contents().viewport(), Qt::LeftButton, Qt::NoModifier,
-                      contents().visualItemRect(zoom).center());
-    settle();
+    clickEntry(zoom);
     EXPECT_EQ(guide().chapter(), QStringLiteral("map"));
     EXPECT_TRUE(guide().source().fragment().endsWith(QStringLiteral(".map.zoom")));
     EXPECT_GT(guide().verticalScrollBar()->value(), 0);
+}
+
+TEST_P(Help, AClickOnTheEntryWhereTheReaderIsLeadsToItsBeginning)
+{
+    open();
+    QTreeWidgetItem* chapter =
+        contents().topLevelItem(static_cast<int>(book().indexOf(QStringLiteral("map")).value()));
+    for (QTreeWidgetItem* item : {chapter, chapter->child(1)}) {
+        contents().expandItem(chapter);
+        clickEntry(item);
+        const int begin = guide().verticalScrollBar()->value();
+        guide().verticalScrollBar()->setValue(guide().verticalScrollBar()->maximum());
+        ASSERT_NE(guide().verticalScrollBar()->value(), begin);
+        clickEntry(item);
+        EXPECT_EQ(guide().verticalScrollBar()->value(), begin);
+    }
 }
 
 TEST_P(Help, TheContentsFollowTheReader)
@@ -430,55 +450,6 @@ std::string languageName(const ::testing::TestParamInfo<Language>& info)
 }
 
 INSTANTIATE_TEST_SUITE_P(Both, Help, ::testing::Values(Language::German, Language::English), languageName);
-
-/// An editor whose help is the real window.
-class HelpBesideTheEditor : public EditorFixture
-{
-};
-
-TEST_F(HelpBesideTheEditor, F1InADialogOpensItsChapter)
-{
-    startPastSplash(Language::English);
-    ASSERT_TRUE(chooseMenu(editor().mainFrm(), QStringLiteral("mnuNew")));
-    press(control<QLineEdit>(editor().overviewFrm(), QStringLiteral("TxtTitle")), Qt::Key_F1);
-    EXPECT_EQ(script.helpViewer.shown, QStringList{workFile(QStringLiteral("SE_README.HLP"))});
-    EXPECT_EQ(script.helpViewer.chapters, QStringList{QStringLiteral("overview")});
-}
-
-TEST_F(HelpBesideTheEditor, OpeningAndClosingItActivatesNoWindowOfTheEditor)
-{
-    startPastSplash(Language::English);
-    putWorkFile(QStringLiteral("SE_README.HLP"), delivered());
-    WindowHelpViewer viewer(Language::English, script.messageBoxes);
-    auto* bar = control<QScrollBar>(editor().mainFrm(), QStringLiteral("HScroll1"));
-    const int scrolled = bar->value() + 1000;
-    bar->setValue(scrolled);
-    settle();
-    viewer.showContents(workFile(QStringLiteral("SE_README.HLP")));
-    settle();
-    EXPECT_EQ(editor().forms().front(), &editor().mainFrm());
-    EXPECT_TRUE(editor().mainFrm().isInputEnabled());
-    press(control<HelpBrowser>(*viewer.window(), QStringLiteral("txtGuide")), Qt::Key_Escape);
-    settle();
-    // An activation would have centred the map.
-    EXPECT_EQ(bar->value(), scrolled);
-}
-
-TEST_F(HelpBesideTheEditor, ItStaysUsableWhileADialogIsOpen)
-{
-    startPastSplash(Language::English);
-    putWorkFile(QStringLiteral("SE_README.HLP"), delivered());
-    WindowHelpViewer viewer(Language::English, script.messageBoxes);
-    viewer.showContents(workFile(QStringLiteral("SE_README.HLP")));
-    ASSERT_TRUE(chooseMenu(editor().mainFrm(), QStringLiteral("mnuNew")));
-    ASSERT_FALSE(editor().mainFrm().isInputEnabled());
-    click(control<QPushButton>(*viewer.window(), QStringLiteral("cmdContents")));
-    auto* guide = control<HelpBrowser>(*viewer.window(), QStringLiteral("txtGuide"));
-    guide->setSource(HelpBrowser::addressOf(QStringLiteral("map")));
-    click(control<QPushButton>(*viewer.window(), QStringLiteral("cmdContents")));
-    EXPECT_EQ(guide->chapter(), QStringLiteral("welcome"));
-    EXPECT_EQ(editor().forms().front(), &editor().overviewFrm());
-}
 
 } // namespace
 } // namespace torvane::testing

@@ -168,6 +168,43 @@ TEST_F(FailingLoad, InAWorkFolderThatResistsTakesTheErrorRoad)
     expectNewAndLoadWork();
 }
 
+TEST_F(FailingLoad, InAWorkFolderThatResistsLeavesTheOldScenarioHalfGone)
+{
+    openScenario();
+    const QByteArray before = profile();
+    QFile::remove(workFile(QStringLiteral("DivisionA1.txt")));
+    QDir(gameFolder()).mkpath(QStringLiteral("ScenarioEditor/DivisionA1.txt"));
+    load(narvik());
+    EXPECT_TRUE(boxes().isEmpty());
+    EXPECT_TRUE(main().isInputEnabled());
+    EXPECT_FALSE(isEnabled("editForceA")) << "the menus went first";
+    EXPECT_EQ(profile(), before);
+    expectNothingUnderWay();
+    QDir(gameFolder()).rmdir(QStringLiteral("ScenarioEditor/DivisionA1.txt"));
+    expectNewAndLoadWork();
+}
+
+TEST_F(FailingLoad, OfNumbersBeyondAllRangesIsToldOnceWhenTheMapDrawsThem)
+{
+    for (const char* replaced : {"DIVISIONCNT=99999999999", "YARDSXPOSITION=1E999"}) {
+        startPastSplash(Language::English);
+        const QByteArray key = QByteArray(replaced).split('=').first() + '=';
+        QByteArray bytes = narvik();
+        const qsizetype at = bytes.indexOf(key);
+        ASSERT_GE(at, 0);
+        bytes.replace(at, bytes.indexOf('\r', at) - at, replaced);
+        boxes().clear();
+        load(bytes);
+        ASSERT_TRUE(overview().isVisible()) << replaced;
+        ASSERT_TRUE(boxes().isEmpty());
+        cancelOverview();
+        EXPECT_EQ(boxes().size(), 1) << replaced;
+        EXPECT_TRUE(main().isInputEnabled());
+        boxes().clear();
+        expectNewAndLoadWork();
+    }
+}
+
 TEST_F(FailingLoad, OnAFullDiskTakesTheErrorRoadAndTellsOfTheProfile)
 {
     startPastSplash(Language::English);

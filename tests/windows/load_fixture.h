@@ -95,7 +95,7 @@ protected:
         }
         return numbers;
     }
-    /// The entries of the main menu that can be chosen at all, or could be if their menu were enabled.
+    /// Every entry of the main menu with its caption, and whether it is enabled and visible.
     QStringList menuState()
     {
         QStringList state;

@@ -1,5 +1,7 @@
 #include "windows/load_fixture.h"
 
+#include <QTest>
+
 #include <vector>
 
 namespace torvane::testing {
@@ -155,6 +157,83 @@ TEST_F(Load, ReadsTheTargetAreaAndKeepsItForAMissionThatHasOne)
     cancelOverview();
     EXPECT_TRUE(main().map().state().target.inUse);
     EXPECT_EQ(main().targetArea(), (TargetArea{500, 700, 9260}));
+}
+
+TEST_F(Load, DoesNotItselfShowTheTargetArea)
+{
+    startPastSplash(Language::English);
+    load(data({"TITLE=x", "BATTLETYPE=1", "BLUE_FORCE_TYPE=0", "BLUE_TARGETBOX_X=500",
+               "BLUE_TARGETBOX_Z=-700", "BLUE_TARGETBOXDIM=9260"}));
+    EXPECT_FALSE(main().map().state().target.placed);
+    EXPECT_FALSE(main().map().state().target.armed);
+    cancelOverview();
+    EXPECT_FALSE(main().map().state().target.placed);
+}
+
+TEST_F(Load, KeepsShowingATargetAreaThatIsPlaced)
+{
+    startPastSplash(Language::English);
+    const QByteArray bombardment =
+        data({"TITLE=x", "BATTLETYPE=1", "BLUE_FORCE_TYPE=0", "BLUE_TARGETBOX_X=500", "BLUE_TARGETBOX_Z=-700",
+              "BLUE_TARGETBOXDIM=9260"});
+    load(bombardment);
+    cancelOverview();
+    ASSERT_TRUE(chooseMenu(main(), QStringLiteral("mnuTargetBox")));
+    QTest::mouseClick(control<QWidget>(main(), QStringLiteral("Picture_Main")), Qt::LeftButton, {},
+                      QPoint(200, 100));
+    settle();
+    ASSERT_TRUE(main().map().state().target.placed);
+    load(bombardment);
+    EXPECT_TRUE(main().map().state().target.placed);
+    EXPECT_EQ(main().targetArea(), (TargetArea{500, 700, 9260}));
+}
+
+TEST_F(Load, LeavesTheWayToDivisionsOpenOnceItIs)
+{
+    startPastSplash(Language::English);
+    load(narvik());
+    cancelOverview();
+    load(data({"TITLE=Empty"}));
+    EXPECT_TRUE(isEnabled("mnuCreateForceA"));
+    EXPECT_TRUE(isEnabled("mnuCreateForceB"));
+    EXPECT_FALSE(isEnabled("editForceA"));
+}
+
+TEST_F(Load, OfMoreDivisionsThanASideHoldsIsFollowedByAnotherOrNewWithoutTheirFiles)
+{
+    startPastSplash(Language::English);
+    QByteArray allBlue = data({"TITLE=Large"});
+    for (int n = 0; n < 12; ++n) {
+        allBlue += division(n, "Blue", "Ship " + QByteArray::number(n));
+    }
+    load(allBlue);
+    ASSERT_TRUE(workNames().contains(QStringLiteral("DivisionA12.txt")));
+    cancelOverview();
+    load(narvik());
+    expectNarvik();
+    cancelOverview();
+    load(allBlue);
+    cancelOverview();
+    ASSERT_TRUE(chooseMenu(main(), QStringLiteral("mnuNew")));
+    EXPECT_EQ(workNames(), (QStringList{QStringLiteral("ScenarioData.mdb"), QStringLiteral("ShipTrack.bmm"),
+                                        QStringLiteral("iniTemp.bmm")}));
+}
+
+TEST_F(Load, AndSaveAHundredTimesChangeNothingBehindTheSecond)
+{
+    startPastSplash(Language::English);
+    QByteArray bytes = narvik();
+    for (int i = 1; i <= 100; ++i) {
+        load(bytes);
+        cancelOverview();
+        ASSERT_TRUE(chooseMenu(main(), QStringLiteral("mnuSave")));
+        const QByteArray saved = scenarioBytesOf(QStringLiteral("Narvik.scn"));
+        ASSERT_FALSE(saved.isEmpty());
+        if (i > 2) {
+            ASSERT_EQ(saved, bytes) << i;
+        }
+        bytes = saved;
+    }
 }
 
 TEST_F(Load, DropsTheTargetAreaBehindTheOverviewOfAMissionWithoutOne)

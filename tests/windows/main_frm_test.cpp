@@ -98,6 +98,8 @@ TEST_F(MainWindow, TitleRulerAndMenusFollowTheLanguage)
     EXPECT_EQ(entry("File")->text(), QStringLiteral("Datei"));
     EXPECT_EQ(entry("mnuSaveAs")->text(), QStringLiteral("Save &As"));
     EXPECT_EQ(entry("mnuAbout")->text(), QStringLiteral("Über"));
+    EXPECT_GE(control<QLabel>(main(), QStringLiteral("Label1"))->width(), 88)
+        << "5.5 pixels for each of its 16 characters";
     startPastSplash(Language::English);
     EXPECT_EQ(main().windowTitle(), QStringLiteral("Torvane - Scenario Editor"));
     EXPECT_EQ(control<QLabel>(main(), QStringLiteral("Label1"))->text(), QStringLiteral("Distance A to B"));
@@ -150,6 +152,28 @@ TEST_F(MainWindow, TwoRunsInARowTheSecondDeletesWhatACrashedFirstLeft)
     start();
     EXPECT_EQ(workNames(), QStringList{QStringLiteral("ScenarioData.mdb")});
     EXPECT_EQ(editor().workingProfile().GetIniKey(u"SCENARIODATA", u"TITLE"), QStringLiteral("INVALID"));
+}
+
+TEST_F(MainWindow, AScratchFileThatResistsAtStartIsNamedAndTheWindowLaysItselfOut)
+{
+    QDir(gameFolder()).mkpath(QStringLiteral("ScenarioEditor/ShipTrack.bmm/inside"));
+    startPastSplash();
+    ASSERT_EQ(boxes().size(), 1);
+    EXPECT_THAT(boxes().first().text.toStdString(), ::testing::HasSubstr("ShipTrack.bmm"));
+    main().showMaximized();
+    settle();
+    EXPECT_GT(map()->width(), 625);
+}
+
+TEST_F(MainWindow, ActivationAnchorsAtTheOrigin)
+{
+    startPastSplash();
+    QTest::mouseMove(map(), QPoint(400, 300));
+    settle();
+    returnFromDialog();
+    const ViewState& view = main().map().state().view;
+    EXPECT_EQ(view.anchorX, view.mapOriginX);
+    EXPECT_EQ(view.anchorZ, view.mapOriginY);
 }
 
 TEST_F(MainWindow, AMissingWorkFolderIsNotReportedAtStart)
@@ -302,6 +326,7 @@ TEST_F(MainWindow, HelpTopicsOpensTheHelpFileOfTheWorkFolder)
     EXPECT_EQ(script.helpViewer.shown, QStringList{workFile(QStringLiteral("SE_README.HLP"))});
     press(map(), Qt::Key_F1);
     EXPECT_EQ(script.helpViewer.shown.size(), 2);
+    EXPECT_TRUE(script.helpViewer.chapters.isEmpty()) << "both open at the contents";
 }
 
 TEST_F(MainWindow, TheMenusAreReachedByF10)

@@ -91,6 +91,16 @@ TEST_F(New, ResetsTheForceMenus)
     EXPECT_EQ(main().menu().blueDivisionCount(), 0);
 }
 
+TEST_F(New, LeavesTheWayToDivisionsOpenOnceItIs)
+{
+    startPastSplash();
+    newScenario();
+    choose("mnuNew");
+    ASSERT_TRUE(editor().overviewFrm().isVisible());
+    EXPECT_TRUE(entry("mnuCreateForceA")->isEnabled());
+    EXPECT_TRUE(entry("mnuCreateForceB")->isEnabled());
+}
+
 TEST_F(New, OkOfTheOverviewOpensTheWayToDivisions)
 {
     startPastSplash();
@@ -200,6 +210,7 @@ protected:
         ASSERT_EQ(boxes().size(), 1);
         EXPECT_EQ(boxes().first().text, QStringLiteral("Wollen Sie zu Torvane zurückkehren?"));
         EXPECT_EQ(boxes().first().title, QStringLiteral("Szenario-Editor verlassen"));
+        EXPECT_EQ(boxes().first().icon, MessageBox::Icon::Question);
         EXPECT_EQ(boxes().first().buttons, MessageBox::Buttons::YesNo);
         EXPECT_EQ(boxes().first().defaultAnswer, Answer::No);
     }
@@ -222,11 +233,13 @@ TEST_F(Exit, TheCloseBoxAsks)
 TEST_F(Exit, EscAndF12AskTheSameQuestion)
 {
     for (const Qt::Key key : {Qt::Key_Escape, Qt::Key_F12}) {
-        boxes().clear();
-        startPastSplash();
-        press(control<QWidget>(main(), QStringLiteral("Picture_Main")), key);
-        expectQuestion();
-        EXPECT_TRUE(editor().hasEnded());
+        for (const char* focus : {"Picture_Main", "HScroll1", "VScroll1", "cmdGunRings"}) {
+            boxes().clear();
+            startPastSplash();
+            press(control<QWidget>(main(), QLatin1StringView(focus)), key);
+            expectQuestion();
+            EXPECT_TRUE(editor().hasEnded()) << focus;
+        }
     }
 }
 
@@ -279,6 +292,14 @@ TEST_F(Exit, AGameThatDoesNotStartIsIgnored)
     choose("mnuExit");
     EXPECT_TRUE(editor().hasEnded());
     EXPECT_EQ(boxes().size(), 1);
+}
+
+TEST_F(Exit, TellsWhetherTheGameStarted)
+{
+    for (const bool started : {true, false}) {
+        script.programLauncher.result = started;
+        EXPECT_EQ(main().Execute_Program(QStringLiteral("game"), QString(), gameFolder()), started);
+    }
 }
 
 TEST_F(Exit, NoExitsToo)

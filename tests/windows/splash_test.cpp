@@ -3,6 +3,7 @@
 #include "support/editor_fixture.h"
 
 #include <QElapsedTimer>
+#include <QGuiApplication>
 #include <QProgressBar>
 #include <QTest>
 
@@ -22,6 +23,7 @@ TEST_F(Splash, ShowsFirstAndTheMainWindowIsHidden)
     start();
     EXPECT_TRUE(splash().isVisible());
     EXPECT_FALSE(editor().mainFrm().isVisible());
+    EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr) << "the load's hourglass is over";
     EXPECT_EQ(bar()->minimum(), 0);
     EXPECT_EQ(bar()->maximum(), 150);
     EXPECT_EQ(bar()->value(), 0);
@@ -49,6 +51,22 @@ TEST_F(Splash, FifteenTicksEndIt)
     EXPECT_FALSE(splash().isVisible());
     EXPECT_FALSE(timer()->isActive());
     EXPECT_TRUE(editor().mainFrm().isInputEnabled());
+}
+
+TEST_F(Splash, ThatRunsOutWhileTheStartStillAsksWaitsForTheAnswer)
+{
+    bool shownTooEarly = false;
+    script.messageBoxes.onShow = [&] {
+        auto* running = editor().splashFrm().findChild<QTimer*>(QStringLiteral("Timer1"));
+        for (int tick = 0; tick < 20; ++tick) {
+            QMetaObject::invokeMethod(running, "timeout", Qt::DirectConnection);
+        }
+        shownTooEarly = editor().mainFrm().isVisible();
+    };
+    start(Language::German, 1);
+    ASSERT_EQ(boxes().size(), 1) << "of the build for developers";
+    EXPECT_FALSE(shownTooEarly);
+    ASSERT_TRUE(waitUntil([&] { return editor().mainFrm().isVisible(); }));
 }
 
 TEST_F(Splash, AKeyShowsTheMainWindowAtOnceAndTheTimerDies)

@@ -2,6 +2,7 @@
 
 #include "platform/folder_lock.h"
 #include "platform/system_services.h"
+#include "platform/toolkit_texts.h"
 #include "support/input.h"
 #include "support/printers.h"
 #include "support/scripted_services.h"
@@ -9,7 +10,9 @@
 #include <QApplication>
 #include <QDir>
 #include <QFile>
+#include <QFileDialog>
 #include <QInputDialog>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTemporaryDir>
@@ -110,6 +113,85 @@ TEST(Boxes, MarkupInATextIsShownAsItIs)
     });
     EXPECT_EQ(boxes.show({.text = QStringLiteral("<b>x"), .title = QString()}), Answer::Ok);
     EXPECT_EQ(format, Qt::PlainText);
+}
+
+/// A folder with one scenario, and the request of the Load command for it.
+class FileBox : public ::testing::Test
+{
+protected:
+    FileBox()
+    {
+        QFile file(folder.filePath(QStringLiteral("Narvik.scn")));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+    }
+    FileRequest request() const
+    {
+        return {.title = QString(),
+                .folder = folder.path(),
+                .fileName = QString(),
+                .filter = QStringLiteral("Scenario Files(*.scn)|*.scn"),
+                .defaultSuffix = QString()};
+    }
+    static void type(QFileDialog& box, const QString& name)
+    {
+        auto* field = box.findChild<QLineEdit*>();
+        field->setText(name);
+        press(field, Qt::Key_Return);
+    }
+
+    QTemporaryDir folder;
+    WindowFileBoxes boxes;
+};
+
+TEST_F(FileBox, OpensInItsFolderWithItsOneFilter)
+{
+    whenOpen<QFileDialog>([&](QFileDialog& box) {
+        EXPECT_EQ(box.directory().path(), folder.path());
+        EXPECT_EQ(box.nameFilters(), QStringList{QStringLiteral("Scenario Files(*.scn)")});
+        EXPECT_EQ(box.acceptMode(), QFileDialog::AcceptOpen);
+        type(box, QStringLiteral("Narvik.scn"));
+    });
+    EXPECT_EQ(boxes.open(request()), folder.filePath(QStringLiteral("Narvik.scn")));
+}
+
+TEST_F(FileBox, LeftByEscGivesNothing)
+{
+    whenOpen<QFileDialog>([](QFileDialog& box) { press(&box, Qt::Key_Escape); });
+    EXPECT_EQ(boxes.open(request()), std::nullopt);
+    whenOpen<QFileDialog>([](QFileDialog& box) { press(&box, Qt::Key_Escape); });
+    EXPECT_EQ(boxes.save(request()), std::nullopt);
+}
+
+TEST_F(FileBox, OfASaveLeavesTheTypedNameAndAsksNoQuestionOfItsOwn)
+{
+    for (const QString& name : {QStringLiteral("Narvik.scn"), QStringLiteral("Narvik")}) {
+        whenOpen<QFileDialog>([&](QFileDialog& box) {
+            EXPECT_EQ(box.acceptMode(), QFileDialog::AcceptSave);
+            type(box, name);
+        });
+        EXPECT_EQ(boxes.save(request()), folder.filePath(name));
+    }
+}
+
+TEST_F(FileBox, SpeaksTheLanguageOfTheProgram)
+{
+    const auto words = [&] {
+        QStringList found;
+        whenOpen<QFileDialog>([&](QFileDialog& box) {
+            for (const QPushButton* button : box.findChildren<QPushButton*>()) {
+                found.append(button->text().remove(QLatin1Char('&')));
+            }
+            press(&box, Qt::Key_Escape);
+        });
+        boxes.open(request());
+        return found;
+    };
+    {
+        const ToolkitTexts german(Language::German);
+        EXPECT_THAT(words(), ::testing::Contains(QStringLiteral("Abbrechen")));
+    }
+    const ToolkitTexts english(Language::English);
+    EXPECT_THAT(words(), ::testing::Contains(QStringLiteral("Cancel")));
 }
 
 TEST(InputBox, GivesTheTextOrNothing)

@@ -1,7 +1,7 @@
 # Debian packages by what they are needed for, and how to install what is missing. Sourced by run, test and
 # .ci/run; needs bash.
 
-build_packages=(g++ cmake ninja-build qt6-base-dev qt6-svg-dev libqt6sql6-sqlite)
+build_packages=(g++ cmake ninja-build qt6-base-dev qt6-svg-dev libqt6sql6-sqlite qt6-translations-l10n)
 display_packages=(libqt6gui6 qt6-qpa-plugins fonts-dejavu-core)
 tour_packages=(xvfb openbox xdotool x11-utils)
 test_packages=(libgtest-dev libgmock-dev "${tour_packages[@]}" xauth sqlite3 binutils)
