@@ -328,9 +328,9 @@ TEST(DeliveredGuide, TellsHowManyOfEachAScenarioHolds)
             most.append(row.value(2));
         }
         EXPECT_EQ(most, (QStringList{QString::number(DivisionRecords::divisionsPerSide),
-                                     QString::number(SelectionRules::shipsPerDivision),
-                                     QString::number(SelectionRules::shipsPerForce),
-                                     QString::number(SelectionRules::shipsPerScenario), "1", "30", "369"}));
+                                     QString::number(ShipSelection::shipsPerDivision),
+                                     QString::number(ShipSelection::shipsPerForce),
+                                     QString::number(ShipSelection::shipsPerScenario), "1", "30", "369"}));
     }
 }
 

@@ -67,6 +67,7 @@ TEST_F(About, SpeaksTheLanguageAndTellsTheDateAsTheSystemWritesIt)
         PictureBox same;
         same.setFont(picture()->font());
         same.resize(picture()->size());
+        same.show();
         same.setBackColor(picture()->backColor());
         same.setForeColor(picture()->foreColor());
         same.clear();

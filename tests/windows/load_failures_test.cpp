@@ -186,7 +186,7 @@ TEST_F(FailingLoad, InAWorkFolderThatResistsLeavesTheOldScenarioHalfGone)
 
 TEST_F(FailingLoad, OfNumbersBeyondAllRangesIsToldOnceWhenTheMapDrawsThem)
 {
-    for (const char* replaced : {"DIVISIONCNT=99999999999", "YARDSXPOSITION=1E999"}) {
+    for (const char* replaced : {"DIVISIONCNT=99999999999", "DIVISIONNAME=Division 0\r\nSHIPCNT=99999999999"}) {
         startPastSplash(Language::English);
         const QByteArray key = QByteArray(replaced).split('=').first() + '=';
         QByteArray bytes = narvik();

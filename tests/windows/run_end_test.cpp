@@ -233,7 +233,7 @@ TEST_F(Exit, TheCloseBoxAsks)
 TEST_F(Exit, EscAndF12AskTheSameQuestion)
 {
     for (const Qt::Key key : {Qt::Key_Escape, Qt::Key_F12}) {
-        for (const char* focus : {"Picture_Main", "HScroll1", "VScroll1", "cmdGunRings"}) {
+        for (const char* focus : {"Picture_Main", "HScroll1", "VScroll1", "cmdGunCircles"}) {
             boxes().clear();
             startPastSplash();
             press(control<QWidget>(main(), QLatin1StringView(focus)), key);
