@@ -186,10 +186,11 @@ TEST_F(FailingLoad, InAWorkFolderThatResistsLeavesTheOldScenarioHalfGone)
 
 TEST_F(FailingLoad, OfNumbersBeyondAllRangesIsToldOnceWhenTheMapDrawsThem)
 {
-    for (const char* replaced : {"DIVISIONCNT=99999999999", "DIVISIONNAME=Division 0\r\nSHIPCNT=99999999999"}) {
+    for (const char* replaced : {"DIVISIONCNT=99999999999", "YARDSXPOSITION=1E999"}) {
         startPastSplash(Language::English);
         const QByteArray key = QByteArray(replaced).split('=').first() + '=';
-        QByteArray bytes = narvik();
+        QByteArray bytes = narvik().replace(
+            "FORMATION=", "FORMATIONHEADING=90\r\nSPEED=9\r\nSHIPCNT=1\r\nFLAGSHIPINDEX=0\r\nFORMATION=");
         const qsizetype at = bytes.indexOf(key);
         ASSERT_GE(at, 0);
         bytes.replace(at, bytes.indexOf('\r', at) - at, replaced);
