@@ -257,8 +257,14 @@ const Profile& ProfileStore::parsed(const QString& file)
 
 bool ProfileStore::write(const QString& file, QStringView section, QStringView key, QStringView value)
 {
+    return write(file, QByteArrayView(toCodePage(section)), toCodePage(key), toCodePage(value));
+}
+
+bool ProfileStore::write(const QString& file, QByteArrayView section, QByteArrayView key,
+                         QByteArrayView value)
+{
     File& target = d->lookedAt(file);
-    const bool changed = target.profile.setValue(toCodePage(section), toCodePage(key), toCodePage(value));
+    const bool changed = target.profile.setValue(section, key, value);
     // A file that is gone must come back, even if we hold the value already.
     target.hasUnsavedWrites = target.hasUnsavedWrites || changed || !stampOf(target.systemPath);
     if (d->depth > 0 || !target.hasUnsavedWrites) {

@@ -43,6 +43,8 @@ public:
     /// Writes one key, making file and section as needed. False if the file could not be written at once
     /// (only without a batch). Throws InvalidProcedureCall for a name that no reader would find again.
     bool write(const QString& file, QStringView section, QStringView key, QStringView value);
+    /// The same with names and value as they stand in the file.
+    bool write(const QString& file, QByteArrayView section, QByteArrayView key, QByteArrayView value);
 
     /// Deletes a profile file and forgets what was to be written to it. Throws as `deleteFile` does, and then
     /// forgets nothing.

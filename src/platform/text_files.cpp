@@ -13,6 +13,7 @@
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
+#include <utility>
 
 namespace torvane {
 
@@ -29,6 +30,7 @@ public:
             ::close(m_handle);
         }
     }
+    Descriptor(Descriptor&& other) noexcept : m_handle(std::exchange(other.m_handle, -1)) {}
     Descriptor(const Descriptor&) = delete;
     Descriptor& operator=(const Descriptor&) = delete;
 
@@ -166,23 +168,45 @@ void writeWholeFile(const QString& path, QByteArrayView bytes)
     syncFolderOf(path);
 }
 
-void writeScratchFile(const QString& path, QByteArrayView bytes)
+namespace {
+
+/// Opens a new file of that name or, where there is one already, a new one beside it and puts its name into
+/// `name`.
+Descriptor openForScratch(QByteArray& name, const QString& path)
 {
-    const QByteArray target = systemPath(path);
-    QByteArray name = target + ".XXXXXX";
-    Descriptor file(::mkostemp(name.data(), O_CLOEXEC));
-    if (!file.isOpen()) {
+    Descriptor made(::open(name.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, usualRights));
+    if (made.isOpen()) {
+        return made;
+    }
+    if (errno != EEXIST) {
+        throw folderError(path, errno);
+    }
+    name += ".XXXXXX";
+    Descriptor beside(::mkostemp(name.data(), O_CLOEXEC));
+    if (!beside.isOpen()) {
         throw folderError(path, errno);
     }
     // Made for its owner alone; it gets the rights of any other file.
     const mode_t mask = ::umask(0);
     ::umask(mask);
+    if (::fchmod(beside.handle(), usualRights & ~mask) != 0) {
+        const int failure = errno;
+        ::unlink(name.constData());
+        throw fileError(path, failure);
+    }
+    return beside;
+}
+
+} // namespace
+
+void writeScratchFile(const QString& path, QByteArrayView bytes)
+{
+    const QByteArray target = systemPath(path);
+    QByteArray name = target;
+    Descriptor file = openForScratch(name, path);
     try {
-        if (::fchmod(file.handle(), usualRights & ~mask) != 0) {
-            throw fileError(path, errno);
-        }
         writeAll(file, path, bytes);
-        if (!file.close() || ::rename(name.constData(), target.constData()) != 0) {
+        if (!file.close() || (name != target && ::rename(name.constData(), target.constData()) != 0)) {
             throw fileError(path, errno);
         }
     } catch (const RuntimeError&) {

@@ -52,19 +52,20 @@ public:
     void copyDivision(int division);
 
 private:
-    QString read(QStringView section, QStringView key) const
+    QString read(QByteArrayView section, QStringView key) const
     {
-        return fromCodePage(GetIniKey(m_file, toCodePage(section), toCodePage(key)));
+        return fromCodePage(GetIniKey(m_file, section, toCodePage(key)));
     }
     void copySection(FileSection kind, QStringView section, int keysPerStep = 0);
-    QString valueFor(const FileKey& key, QStringView section) const;
+    QString changedValue(const FileKey& key, QByteArrayView section) const;
 
     const Profile& m_file;
     WorkingProfile& m_profile;
     const LoadProgress& m_progress;
 };
 
-QString ScenarioReader::valueFor(const FileKey& key, QStringView section) const
+/// The value of a key that is not copied as it stands.
+QString ScenarioReader::changedValue(const FileKey& key, QByteArrayView section) const
 {
     switch (key.reading) {
     case Reading::Version:
@@ -93,11 +94,17 @@ QString ScenarioReader::valueFor(const FileKey& key, QStringView section) const
 void ScenarioReader::copySection(FileSection kind, QStringView section, int keysPerStep)
 {
     int copied = 0;
+    const QByteArray sectionBytes = toCodePage(section);
     for (const FileKey& key : keysOf(kind)) {
         if (key.reading == Reading::NotKept) {
             continue;
         }
-        m_profile.write(section, key.name, valueFor(key, section));
+        const QByteArray name = toCodePage(key.name);
+        if (key.reading == Reading::Copy) {
+            m_profile.write(QByteArrayView(sectionBytes), name, GetIniKey(m_file, sectionBytes, name));
+        } else {
+            m_profile.write(QByteArrayView(sectionBytes), name, toCodePage(changedValue(key, sectionBytes)));
+        }
         if (keysPerStep > 0 && ++copied % keysPerStep == 0) {
             step(m_progress);
         }
@@ -115,13 +122,13 @@ void ScenarioReader::copyHead()
 void ScenarioReader::copyDivision(int division)
 {
     const QString section = divisionSection(division);
-    if (read(section, u"DIVISIONNAME") != invalidValue) {
+    if (read(toCodePage(section), u"DIVISIONNAME") != invalidValue) {
         copySection(FileSection::Division, section);
     }
     for (int m = 0; m < shipSections; ++m) {
         step(m_progress);
         const QString ship = shipSection(division, m);
-        const QString name = read(ship, u"NAME");
+        const QString name = read(toCodePage(ship), u"NAME");
         if (name != invalidValue && name != noShip) {
             copySection(FileSection::Ship, ship, shipKeysPerStep);
         }

@@ -14,10 +14,18 @@ constexpr QSize panelSize(300, 48);
 constexpr int barHeight = 18;
 constexpr int paintInterval = 40; // milliseconds
 
+/// A bar without words: Qt would put them together at each of a load's thousand steps.
+class WordlessBar : public QProgressBar
+{
+public:
+    using QProgressBar::QProgressBar;
+    QString text() const override { return {}; }
+};
+
 } // namespace
 
 ProgressPanel::ProgressPanel(QWidget* parent)
-    : m_picLoad(new PictureBox(parent)), m_prgbarLoad(new QProgressBar(parent))
+    : m_picLoad(new PictureBox(parent)), m_prgbarLoad(new WordlessBar(parent))
 {
     m_picLoad->setObjectName(QStringLiteral("picLoad"));
     m_prgbarLoad->setObjectName(QStringLiteral("prgbarLoad"));

@@ -108,6 +108,11 @@ bool WorkingProfile::write(QStringView section, QStringView key, QStringView val
     return m_store.write(m_path, section, key, value);
 }
 
+bool WorkingProfile::write(QByteArrayView section, QByteArrayView key, QByteArrayView value)
+{
+    return m_store.write(m_path, section, key, value);
+}
+
 bool WorkingProfile::createNewIniTempFile()
 {
     remove();

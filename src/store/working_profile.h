@@ -42,6 +42,8 @@ public:
 
     /// Writes one key; the platform reports a failure.
     bool write(QStringView section, QStringView key, QStringView value);
+    /// The same with names and value as they stand in the file.
+    bool write(QByteArrayView section, QByteArrayView key, QByteArrayView value);
 
     /// Deletes the profile. Throws RuntimeError if it is there and can't be deleted.
     void remove() { m_store.remove(m_path); }
