@@ -116,14 +116,50 @@ TEST_F(Stepper, AClickActsOnce)
     EXPECT_TRUE(minus.isEmpty());
 }
 
-TEST_F(Stepper, HeldItRepeatsUntilItIsLetGo)
+TEST_F(Stepper, ASlowClickActsOnce)
+{
+    QTest::mousePress(&button, Qt::LeftButton);
+    QTest::qWait(400);
+    EXPECT_TRUE(clicked.isEmpty());
+    QTest::mouseRelease(&button, Qt::LeftButton);
+    EXPECT_EQ(clicked.size(), 1);
+}
+
+TEST_F(Stepper, HeldItRepeatsUntilItIsLetGoWhichAddsNone)
 {
     QTest::mousePress(&button, Qt::LeftButton);
     EXPECT_TRUE(waitUntil([&] { return clicked.size() >= 3; }));
-    QTest::mouseRelease(&button, Qt::LeftButton);
     const auto count = clicked.size();
+    QTest::mouseRelease(&button, Qt::LeftButton);
+    EXPECT_EQ(clicked.size(), count);
     QTest::qWait(250);
     EXPECT_EQ(clicked.size(), count);
+    EXPECT_FALSE(button.isDown());
+    click(&button);
+    EXPECT_EQ(clicked.size(), count + 1) << "the next click counts again";
+}
+
+TEST_F(Stepper, TheHeldSpaceBarRepeatsUntilItIsLetGoWhichAddsNone)
+{
+    QTest::keyPress(&button, Qt::Key_Space);
+    EXPECT_TRUE(waitUntil([&] { return clicked.size() >= 3; }));
+    const auto count = clicked.size();
+    QTest::keyRelease(&button, Qt::Key_Space);
+    QTest::qWait(250);
+    EXPECT_EQ(clicked.size(), count);
+    press(&button, Qt::Key_Space);
+    EXPECT_EQ(clicked.size(), count + 1) << "the next one counts again";
+}
+
+TEST_F(Stepper, AHoldThatLosesTheKeyboardLeavesTheNextClickWhole)
+{
+    QTest::keyPress(&button, Qt::Key_Space);
+    EXPECT_TRUE(waitUntil([&] { return clicked.size() >= 2; }));
+    QFocusEvent out(QEvent::FocusOut, Qt::TabFocusReason);
+    QApplication::sendEvent(&button, &out);
+    const auto count = clicked.size();
+    click(&button);
+    EXPECT_EQ(clicked.size(), count + 1);
 }
 
 TEST_F(Stepper, TheSpaceBarIsAClick)
@@ -141,6 +177,19 @@ TEST_F(Stepper, PlusAndMinusAreToldApartFromAClick)
     EXPECT_EQ(plus.size(), 3);
     EXPECT_EQ(minus.size(), 1);
     EXPECT_TRUE(clicked.isEmpty());
+}
+
+TEST_F(Stepper, PlusAndMinusGoOnWhereNobodyListens)
+{
+    StepButton deaf;
+    deaf.show();
+    for (const Qt::Key key : {Qt::Key_Plus, Qt::Key_Minus}) {
+        QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier);
+        QApplication::sendEvent(&deaf, &event);
+        EXPECT_FALSE(event.isAccepted());
+        QApplication::sendEvent(&button, &event);
+        EXPECT_TRUE(event.isAccepted());
+    }
 }
 
 TEST_F(Stepper, EnterIsLeftToTheWindowsDefaultButton)
