@@ -1,8 +1,13 @@
+#include "platform/label_lead.h"
 #include "platform/list_combo.h"
 #include "platform/step_button.h"
 #include "support/input.h"
 #include "support/printers.h"
 
+#include <QLabel>
+#include <QLineEdit>
+#include <QRadioButton>
+#include <QShortcutEvent>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -187,8 +192,9 @@ TEST_F(Stepper, PlusAndMinusGoOnWhereNobodyListens)
         QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier);
         QApplication::sendEvent(&deaf, &event);
         EXPECT_FALSE(event.isAccepted());
-        QApplication::sendEvent(&button, &event);
-        EXPECT_TRUE(event.isAccepted());
+        QKeyEvent heard(QEvent::KeyPress, key, Qt::NoModifier);
+        QApplication::sendEvent(&button, &heard);
+        EXPECT_TRUE(heard.isAccepted());
     }
 }
 
@@ -214,6 +220,52 @@ TEST_F(Stepper, IsSmallButHoldsItsText)
     EXPECT_LT(button.sizeHint().width(), QPushButton(button.text()).sizeHint().width());
     button.setText(QStringLiteral("A long word on it"));
     EXPECT_GT(button.sizeHint().width(), button.fontMetrics().horizontalAdvance(button.text()));
+}
+
+class LabelAtAnOption : public ::testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        label.setBuddy(&no);
+        window.show();
+        window.activateWindow();
+        ASSERT_TRUE(waitUntil([&] { return window.isActiveWindow(); }));
+        field.setFocus();
+    }
+
+    QWidget window;
+    QLabel label{QStringLiteral("&Encumbered"), &window};
+    QLineEdit field{&window};
+    QRadioButton yes{QStringLiteral("Yes"), &window};
+    QRadioButton no{QStringLiteral("No"), &window};
+    QShortcutEvent mnemonic{QKeySequence(Qt::ALT | Qt::Key_E), 0};
+};
+
+TEST_F(LabelAtAnOption, LeadsToItWhereNoneIsChosenAndChoosesNone)
+{
+    EXPECT_TRUE(leadByMnemonic(&label, &mnemonic));
+    EXPECT_TRUE(no.hasFocus());
+    QTest::qWait(200);
+    EXPECT_FALSE(no.isChecked());
+}
+
+TEST_F(LabelAtAnOption, LeadsToTheOneThatIsOn)
+{
+    yes.setChecked(true);
+    EXPECT_TRUE(leadByMnemonic(&label, &mnemonic));
+    EXPECT_TRUE(yes.hasFocus());
+    QTest::qWait(200);
+    EXPECT_TRUE(yes.isChecked());
+}
+
+TEST_F(LabelAtAnOption, LeavesTheLabelsOfFieldsAndOtherEventsAlone)
+{
+    const QEvent other(QEvent::KeyPress);
+    EXPECT_FALSE(leadByMnemonic(&label, &other));
+    EXPECT_FALSE(leadByMnemonic(&window, &mnemonic));
+    label.setBuddy(&field);
+    EXPECT_FALSE(leadByMnemonic(&label, &mnemonic));
 }
 
 } // namespace
