@@ -1,5 +1,7 @@
 #include "platform/form.h"
 
+#include "platform/label_lead.h"
+
 #include <QApplication>
 #include <QChildEvent>
 #include <QCloseEvent>
@@ -130,7 +132,7 @@ bool Form::eventFilter(QObject* watched, QEvent* event)
         watch(static_cast<QChildEvent*>(event)->child());
     }
     if (m_inputEnabled || !isInput(event->type())) {
-        return QWidget::eventFilter(watched, event);
+        return leadByMnemonic(watched, event) || QWidget::eventFilter(watched, event);
     }
     // A click on a window that waits brings the window it waits for to the front.
     if (event->type() == QEvent::MouseButtonPress && m_formStack.front() && m_formStack.front() != this) {

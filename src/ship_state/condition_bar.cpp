@@ -34,7 +34,7 @@ ConditionBar::ConditionBar(Full full, QWidget* parent) : QProgressBar(parent), m
 
 void ConditionBar::setShare(double share)
 {
-    setValue(static_cast<int>(share * steps));
+    setValue(qRound(share * steps));
     QPalette colors = palette();
     colors.setColor(QPalette::Highlight, colorOf(m_full == Full::Good ? share : 1 - share));
     setPalette(colors);

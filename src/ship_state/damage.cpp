@@ -10,8 +10,6 @@ namespace torvane {
 
 namespace {
 
-constexpr double fullPercent = 100;
-constexpr double highestFireLevel = 10;
 constexpr qsizetype steppedCharacters = 3;
 
 constexpr QLatin1StringView percentSign{" %"};
@@ -64,7 +62,7 @@ double shareShown(const QString& caption, double full)
     try {
         return std::clamp(numberValue(caption) / full, 0.0, 1.0);
     } catch (const RuntimeError&) {
-        return 1;
+        return caption.trimmed().startsWith(u'-') ? 0 : 1;
     }
 }
 

@@ -10,6 +10,10 @@ namespace torvane {
 inline constexpr QLatin1StringView destroyedFlag{"-1"};
 inline constexpr QLatin1StringView wholeFlag{"0"};
 
+/// What percentages and fire levels end at.
+inline constexpr double fullPercent = 100;
+inline constexpr double highestFireLevel = 10;
+
 /// Which of a pair of buttons was pressed.
 enum class Step { Up, Down };
 

@@ -26,8 +26,8 @@ constexpr std::array<IdentityRow, 3> identityRows{{
 
 } // namespace
 
-GeneralPage::GeneralPage(ShipData& shipData, QWidget* parent)
-    : ShipDataPage(shipData, QLatin1StringView("fraGeneral"), parent)
+GeneralPage::GeneralPage(ShipData& shipData, QLatin1StringView designName, QWidget* parent)
+    : ShipDataPage(shipData, designName, parent)
 {
     auto* column = new QVBoxLayout(this);
     auto* identity = new QGridLayout;
@@ -55,7 +55,7 @@ GeneralPage::GeneralPage(ShipData& shipData, QWidget* parent)
                {.row = fireLevel,
                 .caption = condition.fire,
                 .rule = steppedFireLevel,
-                .full = 10,
+                .full = highestFireLevel,
                 .meaning = ConditionBar::Full::Bad});
     points->setColumnStretch(1, 1);
     for (std::size_t i = 0; i < crewLists.size(); ++i) {

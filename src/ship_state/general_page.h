@@ -12,7 +12,7 @@ class GeneralPage : public ShipDataPage
     Q_OBJECT
 
 public:
-    explicit GeneralPage(ShipData& shipData, QWidget* parent = nullptr);
+    GeneralPage(ShipData& shipData, QLatin1StringView designName, QWidget* parent = nullptr);
 
     void showCondition() override;
     void applyCaptions(Language language, QString taken) override;

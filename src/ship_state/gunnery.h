@@ -80,6 +80,8 @@ inline constexpr std::array<MagazineRow, 9> magazines{{
      {"Label58", {"Mag COM", "Mag. NO"}, "lblSecCOM", "cmdSecCOM_up", "cmdSecCOM_down"}},
 }};
 inline constexpr std::size_t roundsOfMagazine = 3;
+/// The place of the secondary magazine among the three; the main ones stand before it.
+inline constexpr std::size_t secondaryMagazine = 2;
 
 /// The magazines themselves, in the order of their rounds. The German caption of B says A. Kept.
 inline constexpr std::array<DamageBox, 3> magazineDamage{{

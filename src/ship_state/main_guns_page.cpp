@@ -33,9 +33,8 @@ std::size_t turretOf(char letter)
 
 } // namespace
 
-MainGunsPage::MainGunsPage(ShipData& shipData, QWidget* parent)
-    : ShipDataPage(shipData, QLatin1StringView("fraMainGun"), parent),
-      m_ui(std::make_unique<Ui::MainGunsPage>())
+MainGunsPage::MainGunsPage(ShipData& shipData, QLatin1StringView designName, QWidget* parent)
+    : ShipDataPage(shipData, designName, parent), m_ui(std::make_unique<Ui::MainGunsPage>())
 {
     m_ui->setupUi(this);
     for (const TurretPlace& place : places) {

@@ -16,7 +16,7 @@ class MainGunsPage : public ShipDataPage
     Q_OBJECT
 
 public:
-    explicit MainGunsPage(ShipData& shipData, QWidget* parent = nullptr);
+    MainGunsPage(ShipData& shipData, QLatin1StringView designName, QWidget* parent = nullptr);
     ~MainGunsPage() override;
 
     /// Offers the turrets that the class has.

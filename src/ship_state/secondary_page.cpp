@@ -27,12 +27,11 @@ constexpr std::array<Place, secondaryGuns.size()> places{{{0, 0, 2}, {2, 1, 1}, 
 constexpr int centreLine = 2;
 constexpr int outboard[] = {0, 4}; // columns left and right of the ship
 constexpr int deckWidth = 210;
-constexpr std::size_t secondaryMagazine = 2;
 
 } // namespace
 
-SecondaryPage::SecondaryPage(ShipData& shipData, QWidget* parent)
-    : ShipDataPage(shipData, QLatin1StringView("fraSecondary"), parent)
+SecondaryPage::SecondaryPage(ShipData& shipData, QLatin1StringView designName, QWidget* parent)
+    : ShipDataPage(shipData, designName, parent)
 {
     auto* column = new QVBoxLayout(this);
     auto* plan = named<ShipPlan>("secondaryPlan", this);
@@ -68,10 +67,12 @@ QWidget* SecondaryPage::makeCount(std::size_t gun, QWidget* plan)
     cell->addWidget(count.label, 0, 0, 1, 2, Qt::AlignHCenter);
     cell->addWidget(count.count, 1, 0);
     cell->addWidget(count.button, 1, 1);
-    addButton(count.button, [this, gun] {
+    const auto countDown = [this, gun] {
         QString& shown = m_data.condition.secondaryGunCounts.at(gun);
         shown = steppedGunCount(shown, m_data.limits.secondaryGunCounts.at(gun));
-    });
+    };
+    addButton(count.button, countDown);
+    addKeys({.button = count.button, .plus = {}, .minus = countDown});
     return group;
 }
 

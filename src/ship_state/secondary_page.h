@@ -12,7 +12,7 @@ class SecondaryPage : public ShipDataPage
     Q_OBJECT
 
 public:
-    explicit SecondaryPage(ShipData& shipData, QWidget* parent = nullptr);
+    SecondaryPage(ShipData& shipData, QLatin1StringView designName, QWidget* parent = nullptr);
 
     void showCondition() override;
     void applyCaptions(Language language, QString taken) override;

@@ -14,8 +14,6 @@ constexpr QStringView propulsionKey{u"PROPULSIONSYSTEMPERCENTAGE"};
 // A system that also has a key of its own kind, written right behind its damage.
 constexpr std::size_t propulsionRow = 0;
 constexpr std::size_t maneuverRow = 1;
-/// In `magazineDamage`; the main magazines stand before it.
-constexpr std::size_t secondaryMagazine = 2;
 
 void loadSystems(ShipCondition& condition, const KeyReader& GetIniKey, Language language)
 {

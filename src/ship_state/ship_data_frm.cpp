@@ -53,10 +53,11 @@ ShipDataFrm::~ShipDataFrm() = default;
 
 void ShipDataFrm::addPages()
 {
-    m_systems = new SystemsPage(m_data);
-    m_mainGuns = new MainGunsPage(m_data);
-    m_pages = {new GeneralPage(m_data), m_systems, m_mainGuns, new SecondaryPage(m_data),
-               new TorpedoPage(m_data)};
+    const auto frame = [](std::size_t page) { return shipDataTabs.at(page).frame; };
+    m_systems = new SystemsPage(m_data, frame(1));
+    m_mainGuns = new MainGunsPage(m_data, frame(2));
+    m_pages = {new GeneralPage(m_data, frame(0)), m_systems, m_mainGuns, new SecondaryPage(m_data, frame(3)),
+               new TorpedoPage(m_data, frame(4))};
     for (ShipDataPage* page : m_pages) {
         m_ui->pages->addWidget(page);
         m_ui->TabStrip1->addTab(QString());
@@ -75,16 +76,17 @@ void ShipDataFrm::addPages()
 // Whatever a control changes, all pages show what came of it, also when the change failed half way.
 void ShipDataFrm::connectPage(const ShipDataPage& page)
 {
+    const auto acting = [this](ShipDataPage::Action act) {
+        return [this, act = std::move(act)] {
+            act();
+            showCondition();
+        };
+    };
     for (const ShipDataPage::Box& box : page.boxes()) {
         on(box.box, &QCheckBox::clicked, [box] { *box.destroyed = box.box->isChecked(); });
     }
     for (const ShipDataPage::Stepper& stepper : page.steppers()) {
-        const auto step = [this, stepper](Step direction) {
-            return [this, stepper, direction] {
-                stepper.step(direction);
-                showCondition();
-            };
-        };
+        const auto step = [&](Step direction) { return acting([=] { stepper.step(direction); }); };
         on(stepper.up, &StepButton::clicked, step(Step::Up));
         on(stepper.down, &StepButton::clicked, step(Step::Down));
         for (const StepButton* button : {stepper.up, stepper.down}) {
@@ -96,10 +98,15 @@ void ShipDataFrm::connectPage(const ShipDataPage& page)
         on(list.list, &ListCombo::activated, [list] { *list.shown = list.list->shownText(); });
     }
     for (const ShipDataPage::Button& button : page.buttons()) {
-        on(button.button, &QAbstractButton::clicked, [this, button] {
-            button.press();
-            showCondition();
-        });
+        on(button.button, &QAbstractButton::clicked, acting(button.press));
+    }
+    for (const ShipDataPage::Keys& keys : page.keys()) {
+        if (keys.plus) {
+            on(keys.button, &StepButton::plusPressed, acting(keys.plus));
+        }
+        if (keys.minus) {
+            on(keys.button, &StepButton::minusPressed, acting(keys.minus));
+        }
     }
 }
 

@@ -90,6 +90,11 @@ void ShipDataPage::addButton(QAbstractButton* button, Action press)
     m_buttons.push_back({button, std::move(press)});
 }
 
+void ShipDataPage::addKeys(Keys keys)
+{
+    m_keys.push_back(std::move(keys));
+}
+
 void ShipDataPage::nameStepButton(QWidget* button, ShipDataText name, ShipDataText tip,
                                   const QString& caption, Language language)
 {

@@ -75,11 +75,19 @@ public:
         QAbstractButton* button;
         Action press;
     };
+    /// What the keys "+" and "-" do on a button that is in no stepper; an empty action leaves its key alone.
+    struct Keys
+    {
+        StepButton* button;
+        Action plus;
+        Action minus;
+    };
 
     const std::vector<Box>& boxes() const { return m_boxes; }
     const std::vector<Stepper>& steppers() const { return m_steppers; }
     const std::vector<List>& lists() const { return m_lists; }
     const std::vector<Button>& buttons() const { return m_buttons; }
+    const std::vector<Keys>& keys() const { return m_keys; }
 
     /// Makes the controls show the condition.
     virtual void showCondition();
@@ -87,7 +95,7 @@ public:
     virtual void applyCaptions(Language language, QString taken);
 
 protected:
-    /// `shipData` outlives the page.
+    /// `shipData` outlives the page. `designName` is the frame's, as the table of the tabs has it.
     ShipDataPage(ShipData& shipData, QLatin1StringView designName, QWidget* parent);
 
     QCheckBox* addBox(const DamageBox& row, bool& destroyed, QWidget* parent);
@@ -97,7 +105,7 @@ protected:
         const StepperRow& row;
         QString& caption;
         std::function<QString(const QString& caption, Step step)> rule = steppedPercent;
-        double full = 100;
+        double full = fullPercent;
         ConditionBar::Full meaning = ConditionBar::Full::Good;
     };
     /// Fills a row of five columns: caption, bar, value, down, up.
@@ -108,6 +116,7 @@ protected:
     /// Fills a row from a column on: caption, list.
     void addList(QGridLayout* grid, int row, int column, const ListRow& list, QString& shown);
     void addButton(QAbstractButton* button, Action press);
+    void addKeys(Keys keys);
     /// Tells what a step button does; `name` takes the caption that stands at it.
     static void nameStepButton(QWidget* button, ShipDataText name, ShipDataText tip, const QString& caption,
                                Language language);
@@ -127,6 +136,7 @@ private:
     std::vector<Stepper> m_steppers;
     std::vector<List> m_lists;
     std::vector<Button> m_buttons;
+    std::vector<Keys> m_keys;
 };
 
 } // namespace torvane

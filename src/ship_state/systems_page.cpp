@@ -28,9 +28,8 @@ constexpr std::size_t searchlights = 4;
 
 } // namespace
 
-SystemsPage::SystemsPage(ShipData& shipData, QWidget* parent)
-    : ShipDataPage(shipData, QLatin1StringView("fraSystems"), parent),
-      m_ui(std::make_unique<Ui::SystemsPage>())
+SystemsPage::SystemsPage(ShipData& shipData, QLatin1StringView designName, QWidget* parent)
+    : ShipDataPage(shipData, designName, parent), m_ui(std::make_unique<Ui::SystemsPage>())
 {
     m_ui->setupUi(this);
     for (std::size_t row = 0; row < repairRows.size(); ++row) {
@@ -43,8 +42,13 @@ SystemsPage::SystemsPage(ShipData& shipData, QWidget* parent)
             addBox(lightsAndDirectors.at(i), m_data.condition.lightsAndDirectorsDestroyed.at(i), frame);
         static_cast<QGridLayout*>(frame->layout())->addWidget(box, places.at(i).row, places.at(i).column);
     }
-    addButton(m_ui->cmdTimeUp, [this] { stepTime(Step::Up); });
-    addButton(m_ui->cmdTimeDown, [this] { stepTime(Step::Down); });
+    const Action more = [this] { stepTime(Step::Up); };
+    const Action less = [this] { stepTime(Step::Down); };
+    addButton(m_ui->cmdTimeUp, more);
+    addButton(m_ui->cmdTimeDown, less);
+    for (StepButton* button : {m_ui->cmdTimeUp, m_ui->cmdTimeDown}) {
+        addKeys({.button = button, .plus = more, .minus = less});
+    }
     addButton(m_ui->Command1, [this] { closeRepair(); });
     m_ui->repairPlace->setCurrentWidget(m_ui->repairHint);
 }

@@ -19,7 +19,7 @@ class SystemsPage : public ShipDataPage
     Q_OBJECT
 
 public:
-    explicit SystemsPage(ShipData& shipData, QWidget* parent = nullptr);
+    SystemsPage(ShipData& shipData, QLatin1StringView designName, QWidget* parent = nullptr);
     ~SystemsPage() override;
 
     void showCondition() override;

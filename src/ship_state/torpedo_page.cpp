@@ -7,8 +7,8 @@
 
 namespace torvane {
 
-TorpedoPage::TorpedoPage(ShipData& shipData, QWidget* parent)
-    : ShipDataPage(shipData, QLatin1StringView("fraTorps"), parent)
+TorpedoPage::TorpedoPage(ShipData& shipData, QLatin1StringView designName, QWidget* parent)
+    : ShipDataPage(shipData, designName, parent)
 {
     auto* column = new QVBoxLayout(this);
     auto* plan = named<ShipPlan>("torpedoPlan", this);

@@ -10,7 +10,7 @@ class TorpedoPage : public ShipDataPage
     Q_OBJECT
 
 public:
-    explicit TorpedoPage(ShipData& shipData, QWidget* parent = nullptr);
+    TorpedoPage(ShipData& shipData, QLatin1StringView designName, QWidget* parent = nullptr);
 };
 
 } // namespace torvane

@@ -110,6 +110,7 @@ TEST(BarShare, StaysBetween0And1)
     EXPECT_DOUBLE_EQ(shareShown(u"-5 %"_s, 100), 0);
     EXPECT_DOUBLE_EQ(shareShown(u"INVALID"_s, 10), 0);
     EXPECT_DOUBLE_EQ(shareShown(u"1E999"_s, 10), 1);
+    EXPECT_DOUBLE_EQ(shareShown(u" -1E999"_s, 10), 0);
 }
 
 TEST(FireLevel, GoesRoundBetween0And10)

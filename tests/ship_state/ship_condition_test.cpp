@@ -45,7 +45,6 @@ TEST_F(Condition, ShowsWhatTheRecordSays)
 {
     limits.hull = 200;
     limits.floatation = 3;
-    limits.rounds = {10, 20, 40, 50, 80, 100, 200, 400, 500};
     load({{"CLASS", "York"},
           {"NAVY", "RN"},
           {"CURRENTHITPOINTS", "50"},
@@ -56,8 +55,22 @@ TEST_F(Condition, ShowsWhatTheRecordSays)
           {"NIGHTTRAINING", "Expert"},
           {"RADARTYPE", "Superb"},
           {"PROPULSIONSYSTEMPERCENTAGE", "85"},
-          {"MANUEVERSYSTEMDIRECTION", "Strb"},
-          {"MAGAHE", "1"},
+          {"MANUEVERSYSTEMDIRECTION", "Strb"}});
+    EXPECT_EQ(condition.shortName, u"Exeter"_s);
+    EXPECT_EQ(condition.shipClass, u"York"_s);
+    EXPECT_EQ(condition.navy, u"RN"_s);
+    EXPECT_EQ(condition.hull, u"25 %"_s);
+    EXPECT_EQ(condition.floatation, u"66.6666666666667 %"_s);
+    EXPECT_EQ(condition.fire, u"7"_s);
+    EXPECT_THAT(condition.crew, ::testing::ElementsAre(u"Elite"_s, u"Tired"_s, u"Expert"_s, u"Superb"_s));
+    EXPECT_EQ(condition.propulsion, u"85"_s);
+    EXPECT_EQ(condition.rudder, u"Strb"_s);
+}
+
+TEST_F(Condition, ShowsRoundsInPercentAndGunsInNumber)
+{
+    limits.rounds = {10, 20, 40, 50, 80, 100, 200, 400, 500};
+    load({{"MAGAHE", "1"},
           {"MAGAAP", "1"},
           {"MAGACOM", "1"},
           {"MAGBHE", "1"},
@@ -70,15 +83,6 @@ TEST_F(Condition, ShowsWhatTheRecordSays)
           {"SECONDARYGUNSAFTCNT", "2"},
           {"SECONDARYGUNSPORTCNT", "3"},
           {"SECONDARYGUNSSTBCNT", "4"}});
-    EXPECT_EQ(condition.shortName, u"Exeter"_s);
-    EXPECT_EQ(condition.shipClass, u"York"_s);
-    EXPECT_EQ(condition.navy, u"RN"_s);
-    EXPECT_EQ(condition.hull, u"25 %"_s);
-    EXPECT_EQ(condition.floatation, u"66.6666666666667 %"_s);
-    EXPECT_EQ(condition.fire, u"7"_s);
-    EXPECT_THAT(condition.crew, ::testing::ElementsAre(u"Elite"_s, u"Tired"_s, u"Expert"_s, u"Superb"_s));
-    EXPECT_EQ(condition.propulsion, u"85"_s);
-    EXPECT_EQ(condition.rudder, u"Strb"_s);
     EXPECT_THAT(condition.rounds,
                 ::testing::ElementsAre(u"10 %"_s, u"5 %"_s, u"2.5 %"_s, u"2 %"_s, u"1.25 %"_s, u"1 %"_s,
                                        u"0.5 %"_s, u"0.25 %"_s, u"0.2 %"_s));

@@ -1,8 +1,13 @@
+#include "platform/label_lead.h"
 #include "platform/list_combo.h"
 #include "platform/step_button.h"
 #include "support/input.h"
 #include "support/printers.h"
 
+#include <QLabel>
+#include <QLineEdit>
+#include <QRadioButton>
+#include <QShortcutEvent>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -116,14 +121,50 @@ TEST_F(Stepper, AClickActsOnce)
     EXPECT_TRUE(minus.isEmpty());
 }
 
-TEST_F(Stepper, HeldItRepeatsUntilItIsLetGo)
+TEST_F(Stepper, ASlowClickActsOnce)
+{
+    QTest::mousePress(&button, Qt::LeftButton);
+    QTest::qWait(400);
+    EXPECT_TRUE(clicked.isEmpty());
+    QTest::mouseRelease(&button, Qt::LeftButton);
+    EXPECT_EQ(clicked.size(), 1);
+}
+
+TEST_F(Stepper, HeldItRepeatsUntilItIsLetGoWhichAddsNone)
 {
     QTest::mousePress(&button, Qt::LeftButton);
     EXPECT_TRUE(waitUntil([&] { return clicked.size() >= 3; }));
-    QTest::mouseRelease(&button, Qt::LeftButton);
     const auto count = clicked.size();
+    QTest::mouseRelease(&button, Qt::LeftButton);
+    EXPECT_EQ(clicked.size(), count);
     QTest::qWait(250);
     EXPECT_EQ(clicked.size(), count);
+    EXPECT_FALSE(button.isDown());
+    click(&button);
+    EXPECT_EQ(clicked.size(), count + 1) << "the next click counts again";
+}
+
+TEST_F(Stepper, TheHeldSpaceBarRepeatsUntilItIsLetGoWhichAddsNone)
+{
+    QTest::keyPress(&button, Qt::Key_Space);
+    EXPECT_TRUE(waitUntil([&] { return clicked.size() >= 3; }));
+    const auto count = clicked.size();
+    QTest::keyRelease(&button, Qt::Key_Space);
+    QTest::qWait(250);
+    EXPECT_EQ(clicked.size(), count);
+    press(&button, Qt::Key_Space);
+    EXPECT_EQ(clicked.size(), count + 1) << "the next one counts again";
+}
+
+TEST_F(Stepper, AHoldThatLosesTheKeyboardLeavesTheNextClickWhole)
+{
+    QTest::keyPress(&button, Qt::Key_Space);
+    EXPECT_TRUE(waitUntil([&] { return clicked.size() >= 2; }));
+    QFocusEvent out(QEvent::FocusOut, Qt::TabFocusReason);
+    QApplication::sendEvent(&button, &out);
+    const auto count = clicked.size();
+    click(&button);
+    EXPECT_EQ(clicked.size(), count + 1);
 }
 
 TEST_F(Stepper, TheSpaceBarIsAClick)
@@ -141,6 +182,20 @@ TEST_F(Stepper, PlusAndMinusAreToldApartFromAClick)
     EXPECT_EQ(plus.size(), 3);
     EXPECT_EQ(minus.size(), 1);
     EXPECT_TRUE(clicked.isEmpty());
+}
+
+TEST_F(Stepper, PlusAndMinusGoOnWhereNobodyListens)
+{
+    StepButton deaf;
+    deaf.show();
+    for (const Qt::Key key : {Qt::Key_Plus, Qt::Key_Minus}) {
+        QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier);
+        QApplication::sendEvent(&deaf, &event);
+        EXPECT_FALSE(event.isAccepted());
+        QKeyEvent heard(QEvent::KeyPress, key, Qt::NoModifier);
+        QApplication::sendEvent(&button, &heard);
+        EXPECT_TRUE(heard.isAccepted());
+    }
 }
 
 TEST_F(Stepper, EnterIsLeftToTheWindowsDefaultButton)
@@ -165,6 +220,52 @@ TEST_F(Stepper, IsSmallButHoldsItsText)
     EXPECT_LT(button.sizeHint().width(), QPushButton(button.text()).sizeHint().width());
     button.setText(QStringLiteral("A long word on it"));
     EXPECT_GT(button.sizeHint().width(), button.fontMetrics().horizontalAdvance(button.text()));
+}
+
+class LabelAtAnOption : public ::testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        label.setBuddy(&no);
+        window.show();
+        window.activateWindow();
+        ASSERT_TRUE(waitUntil([&] { return window.isActiveWindow(); }));
+        field.setFocus();
+    }
+
+    QWidget window;
+    QLabel label{QStringLiteral("&Encumbered"), &window};
+    QLineEdit field{&window};
+    QRadioButton yes{QStringLiteral("Yes"), &window};
+    QRadioButton no{QStringLiteral("No"), &window};
+    QShortcutEvent mnemonic{QKeySequence(Qt::ALT | Qt::Key_E), 0};
+};
+
+TEST_F(LabelAtAnOption, LeadsToItWhereNoneIsChosenAndChoosesNone)
+{
+    EXPECT_TRUE(leadByMnemonic(&label, &mnemonic));
+    EXPECT_TRUE(no.hasFocus());
+    QTest::qWait(200);
+    EXPECT_FALSE(no.isChecked());
+}
+
+TEST_F(LabelAtAnOption, LeadsToTheOneThatIsOn)
+{
+    yes.setChecked(true);
+    EXPECT_TRUE(leadByMnemonic(&label, &mnemonic));
+    EXPECT_TRUE(yes.hasFocus());
+    QTest::qWait(200);
+    EXPECT_TRUE(yes.isChecked());
+}
+
+TEST_F(LabelAtAnOption, LeavesTheLabelsOfFieldsAndOtherEventsAlone)
+{
+    const QEvent other(QEvent::KeyPress);
+    EXPECT_FALSE(leadByMnemonic(&label, &other));
+    EXPECT_FALSE(leadByMnemonic(&window, &mnemonic));
+    label.setBuddy(&field);
+    EXPECT_FALSE(leadByMnemonic(&label, &mnemonic));
 }
 
 } // namespace

@@ -96,6 +96,22 @@ TEST_F(EnvironmentWeather, EachSeaDrawsFromItsLowEndToItsHighEnd)
     }
 }
 
+TEST_F(EnvironmentWeather, VisibilityIsLoadedBehindTheClocksAndTheSeaBehindTheWind)
+{
+    openBy(false, "100");
+    EXPECT_EQ(envBox("TxtVis")->text(), QStringLiteral("100 %"))
+        << "what the scenario holds, not what night allows";
+    EXPECT_TRUE(envLabel("imgNight")->isVisible());
+    EXPECT_FALSE(envLabel("imgDay")->isVisible());
+    cancelEnvironment();
+    store("WIND_SPEED", "1");
+    store("SEASTATE", "8");
+    openEnvironment();
+    EXPECT_EQ(wind(), QStringLiteral("1"));
+    EXPECT_EQ(sea(), QStringLiteral("8"));
+    EXPECT_TRUE(boxes().isEmpty());
+}
+
 TEST_F(EnvironmentWeather, EachDrawIsSeededFromTheClockAnew)
 {
     openFresh();

@@ -1,10 +1,15 @@
 #pragma once
 
 #include "platform/form.h"
+#include "platform/mnemonics.h"
 #include "support/input.h"
 #include "support/printers.h"
 
+#include <QAbstractButton>
+#include <QComboBox>
 #include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
 #include <QTest>
 
 #include <gmock/gmock.h>
@@ -24,12 +29,34 @@ inline void pressMnemonic(Form& window, const QString& caption)
                         Qt::AltModifier);
     settle();
 }
-/// Every visible label with a buddy leads to it by its mnemonic.
+/// What the controls of a window say, control by control.
+inline QStringList shownValues(const Form& window)
+{
+    QStringList values;
+    for (const QWidget* control : window.findChildren<QWidget*>()) {
+        QString value = QStringLiteral("%1: visible %2").arg(control->objectName()).arg(control->isVisible());
+        if (const auto* label = qobject_cast<const QLabel*>(control)) {
+            value += label->text();
+        } else if (const auto* box = qobject_cast<const QLineEdit*>(control)) {
+            value += box->text();
+        } else if (const auto* text = qobject_cast<const QPlainTextEdit*>(control)) {
+            value += text->toPlainText();
+        } else if (const auto* list = qobject_cast<const QComboBox*>(control)) {
+            value += list->currentText();
+        } else if (const auto* button = qobject_cast<const QAbstractButton*>(control)) {
+            value += button->text() + QString::number(button->isChecked());
+        }
+        values.append(value);
+    }
+    return values;
+}
+/// Every visible label with a buddy and a mnemonic leads to it by that, and does no more.
 inline void expectLabelsLead(Form& window, int least)
 {
+    const QStringList before = shownValues(window);
     int found = 0;
     for (const QLabel* label : window.findChildren<QLabel*>()) {
-        if (!label->isVisible() || !label->buddy()) {
+        if (!label->isVisible() || !label->buddy() || mnemonicOf(label->text()).isNull()) {
             continue;
         }
         ++found;
@@ -37,6 +64,8 @@ inline void expectLabelsLead(Form& window, int least)
         EXPECT_TRUE(label->buddy()->hasFocus()) << label->text().toStdString();
     }
     EXPECT_EQ(found, least);
+    QTest::qWait(200); // a button that is pressed by a key acts a moment later
+    EXPECT_EQ(shownValues(window), before);
 }
 /// Where Tab leads, from the control that has the focus on, once round.
 inline QStringList tabRound(Form& window, QWidget* first)

@@ -48,6 +48,16 @@ TEST_F(OverviewWindow, EveryCaptionIsThatOfTheLanguage)
     }
 }
 
+TEST_F(OverviewWindow, EachForcesRoleStandsOnItsColour)
+{
+    openNew();
+    for (const auto& [name, color] :
+         {std::pair{"lblMissionA", QColor(36, 74, 150)}, {"lblMissionB", QColor(164, 38, 38)}}) {
+        EXPECT_TRUE(label(name)->autoFillBackground()) << name;
+        EXPECT_EQ(label(name)->palette().color(QPalette::Window), color) << name;
+    }
+}
+
 TEST_F(OverviewWindow, TitleBarAndButtonsStandExactlyAsLaidDown)
 {
     openNew(Language::English);

@@ -7,6 +7,7 @@
 #include "support/catalogue_file.h"
 #include "support/editor_fixture.h"
 #include "support/lists.h"
+#include "support/shown_captions.h"
 
 #include <QAction>
 #include <QCheckBox>
@@ -31,6 +32,7 @@ protected:
         file.addShip("Duncan RN", "Duncan", "DD", "D class leader", "RN");
         file.addShip("Duncan USN", "Duncan", "DD", "Benson", "USN");
         file.addShip("Monster", "Monster", "BB", "Too much", "RN");
+        file.addShip("Wanderer of the Sea", "Wanderer", "TR", "Nowhere", "RN");
         file.addClass("York", {{"f", "2000"},
                                {"g", "75"},
                                {"h", "100"},
@@ -102,6 +104,14 @@ protected:
         startPastSplash(language);
         putShip(QStringLiteral("Exeter"));
         open(QStringLiteral("CA Exeter"));
+    }
+    /// The captions of the dialog in both languages.
+    void expectShown(std::span<const CaptionRow> captions)
+    {
+        for (const Language language : {Language::English, Language::German}) {
+            openExeter(language);
+            expectCaptions(dialog(), captions, language);
+        }
     }
     void save() { click(button("cmdSave")); }
     void cancel() { click(button("CmdCancel")); }

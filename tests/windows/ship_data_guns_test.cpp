@@ -7,6 +7,25 @@ using namespace Qt::StringLiterals;
 
 constexpr std::string_view letters = "ABCDEGHIJLMNOQRTUXYZ";
 
+constexpr CaptionRow captions[] = {
+    {"Frame2"_L1, {"Turret Destroyed", "Geschützturm zerstört"}},
+    {"Frame3"_L1, {"Forward Arc", "Bug"}},
+    {"Frame4"_L1, {"Rear Arc", "Heck"}},
+    {"Frame5"_L1, {"Port Wing Arc", "Backbord"}},
+    {"Frame6"_L1, {"Port Wing Arc", "Backbord"}},
+    {"Frame7"_L1, {"Strb Wing Arc", "Steuerbord"}},
+    {"Frame8"_L1, {"Strb Wing Arc", "Steuerbord"}},
+    {"fraBroadsideport"_L1, {"Broadside", "Breitseite"}},
+    {"Frame12"_L1, {"Broadside", "Breitseite"}},
+    {"chkMagA"_L1, {"Magazine A Damage", "Schaden - Magazin A"}},
+    {"chkMagB"_L1, {"Magazine B Damage", "Schaden - Magazin A"}},
+    {"chkSecMag"_L1, {"Secondary Magazine Destroyed", "Sekundärgeschützmagazin zerstört"}},
+    {"chkTorp1"_L1, {"Mount 1 Destroyed", "Torpedosatz 1 zerstört"}},
+    {"chkTorp2"_L1, {"Mount 2 Destroyed", "Torpedosatz 2 zerstört"}},
+    {"chkTorp3"_L1, {"Mount 3 Destroyed", "Torpedosatz 3 zerstört"}},
+    {"chkTorp4"_L1, {"Mount 4 Destroyed", "Torpedosatz 4 zerstört"}},
+};
+
 class ShipGunPages : public OneShipDialog
 {
 protected:
@@ -27,48 +46,9 @@ protected:
 
 TEST_F(ShipGunPages, CaptionsAreThoseOfTheLanguage)
 {
-    const struct
-    {
-        const char* name;
-        const char* english;
-        const char* german;
-    } frames[] = {
-        {"Frame2", "Turret Destroyed", "Geschützturm zerstört"},
-        {"Frame3", "Forward Arc", "Bug"},
-        {"Frame4", "Rear Arc", "Heck"},
-        {"Frame5", "Port Wing Arc", "Backbord"},
-        {"Frame6", "Port Wing Arc", "Backbord"},
-        {"Frame7", "Strb Wing Arc", "Steuerbord"},
-        {"Frame8", "Strb Wing Arc", "Steuerbord"},
-        {"fraBroadsideport", "Broadside", "Breitseite"},
-        {"Frame12", "Broadside", "Breitseite"},
-    };
-    const struct
-    {
-        const char* name;
-        const char* english;
-        const char* german;
-    } checks[] = {
-        {"chkMagA", "Magazine A Damage", "Schaden - Magazin A"},
-        {"chkMagB", "Magazine B Damage", "Schaden - Magazin A"},
-        {"chkSecMag", "Secondary Magazine Destroyed", "Sekundärgeschützmagazin zerstört"},
-        {"chkTorp1", "Mount 1 Destroyed", "Torpedosatz 1 zerstört"},
-        {"chkTorp2", "Mount 2 Destroyed", "Torpedosatz 2 zerstört"},
-        {"chkTorp3", "Mount 3 Destroyed", "Torpedosatz 3 zerstört"},
-        {"chkTorp4", "Mount 4 Destroyed", "Torpedosatz 4 zerstört"},
-    };
-    for (const Language language : {Language::English, Language::German}) {
-        const bool german = language == Language::German;
-        openExeter(language);
-        for (const auto& row : frames) {
-            EXPECT_EQ(frame(row.name)->title(), QString::fromUtf8(german ? row.german : row.english));
-        }
-        for (const auto& row : checks) {
-            EXPECT_EQ(box(row.name)->text(), QString::fromUtf8(german ? row.german : row.english));
-        }
-        for (const char letter : letters) {
-            EXPECT_EQ(turret(letter)->text(), QString(QLatin1Char(letter)) + u':');
-        }
+    expectShown(captions);
+    for (const char letter : letters) {
+        EXPECT_EQ(turret(letter)->text(), QString(QLatin1Char(letter)) + u':');
     }
 }
 
@@ -152,7 +132,24 @@ TEST_F(ShipGunPages, AMagazineThatTheClassLacksCanNotBeStepped)
     EXPECT_EQ(shown("lblStrbHE"), u"0 %"_s);
 }
 
-TEST_F(ShipGunPages, OfAClassWithoutPointsHullFloatAndPropulsionStepAllTheSame)
+TEST_F(ShipGunPages, OfAClassOfAllZerosNoMagazineCanBeStepped)
+{
+    startPastSplash(Language::English);
+    putShip(u"Raft"_s);
+    open(u"TR Raft"_s);
+    for (const char* magazine :
+         {"PortHE", "PortAP", "PortCOM", "StrbHE", "StrbAP", "StrbCOM", "SecHE", "SecAP", "SecCOM"}) {
+        const QByteArray name(magazine);
+        for (const char* direction : {"_up", "_down"}) {
+            press(QByteArray("cmd" + name + direction).constData());
+            EXPECT_EQ(shown(QByteArray("lbl" + name).constData()), u"0 %"_s) << magazine << direction;
+        }
+    }
+    save();
+    EXPECT_EQ(stored("MAGAHE"), u"0"_s);
+}
+
+TEST_F(ShipGunPages, OfAClassOfAllZerosHullFloatAndPropulsionStepAllTheSame)
 {
     startPastSplash(Language::English);
     putShip(u"Raft"_s);
@@ -162,12 +159,24 @@ TEST_F(ShipGunPages, OfAClassWithoutPointsHullFloatAndPropulsionStepAllTheSame)
     press("cmdFltPitsDown");
     EXPECT_EQ(shown("lblHitPt"), u"1 %"_s);
     EXPECT_EQ(shown("lblFloatPts"), u"100 %"_s);
-    press("cmdSecForeCnt");
-    EXPECT_EQ(shown("lblForeCnt"), u"0"_s);
+    EXPECT_EQ(shown("lblPropPrcnt"), u"100"_s);
+    press("cmdPropSysPrcntUp");
+    EXPECT_EQ(shown("lblPropPrcnt"), u"0 %"_s);
+    press("cmdPropSysPrcntUp");
+    EXPECT_EQ(shown("lblPropPrcnt"), u"1 %"_s);
     save();
     EXPECT_EQ(stored("CURRENTHITPOINTS"), u"0"_s);
     EXPECT_EQ(stored("CURRENTFLOATPOINTS"), u"0"_s);
-    EXPECT_EQ(stored("MAGAHE"), u"0"_s);
+    EXPECT_EQ(stored("PROPULSIONSYSTEMPERCENTAGE"), u"1"_s);
+}
+
+TEST_F(ShipGunPages, GunsThatTheClassLacksStayAtNone)
+{
+    startPastSplash(Language::English);
+    putShip(u"Raft"_s);
+    open(u"TR Raft"_s);
+    press("cmdSecForeCnt");
+    EXPECT_EQ(shown("lblForeCnt"), u"0"_s);
 }
 
 TEST_F(ShipGunPages, ThreeQuartersOf120ShellsAre90)

@@ -21,6 +21,29 @@ constexpr Row rows[] = {
     {"cmdRepairRadar", "lblRadarDam", "chkRadar", "RADARDAMAGE"},
 };
 
+constexpr CaptionRow captions[] = {
+    {"cmdRepairProp"_L1, {"Propulsion Damage", "Schaden am Antrieb"}},
+    {"cmdRepairMan"_L1, {"Maneuvering Damage", "Ruderschaden"}},
+    {"cmdRepairElec"_L1, {"Electrical Damage", "elektrischer Schaden"}},
+    {"cmdRepairDam"_L1, {"Damage Control", "Schadenskontrolle "}},
+    {"cmdRepairBridge"_L1, {"Bridge Damage", "Schaden an der Brücke"}},
+    {"cmdRepairRadar"_L1, {"Radar Damage", "Radarschaden"}},
+    {"chkPropSys"_L1, inBoth("Propulsion System Destroyed:")},
+    {"chkManeuver"_L1, inBoth("Maneuvering System Destroyed")},
+    {"chkElectrical"_L1, inBoth("Electrical System Destroyed")},
+    {"chkDamage"_L1, inBoth("Damage Control Destroyed")},
+    {"chkBridge"_L1, inBoth("Bridge Control Destroyed")},
+    {"chkRadar"_L1, inBoth("Radar Control Destroyed")},
+    {"chkSL_Port1"_L1, {"Searchlights Port 1", "Scheinwerfer B 1"}},
+    {"chkSL_Port2"_L1, {"Searchlights Port 2", "Scheinwerfer B 2"}},
+    {"chkSL_Strb1"_L1, {"Searchlights Strb 1", "Scheinwerfer S 1"}},
+    {"chkSL_Strb2"_L1, {"Searchlights Strb 2", "Scheinwerfer S 2"}},
+    {"chkDir1"_L1, {"Fire Director 1", "Feuerleitstelle 1"}},
+    {"chkDir2"_L1, {"Fire Director 2", "Feuerleitstelle 2"}},
+    {"Frame10"_L1, {"Searchlights Destroyed", "Scheinwerfer zerstört"}},
+    {"Frame11"_L1, {"Fire Directors Destroyed", "Feuerleitstelle zerstört"}},
+};
+
 class ShipSystemsPage : public OneShipDialog
 {
 protected:
@@ -36,54 +59,10 @@ protected:
 
 TEST_F(ShipSystemsPage, CaptionsAreThoseOfTheLanguage)
 {
-    const struct
-    {
-        const char* name;
-        const char* english;
-        const char* german;
-    } buttons[] = {
-        {"cmdRepairProp", "Propulsion Damage", "Schaden am Antrieb"},
-        {"cmdRepairMan", "Maneuvering Damage", "Ruderschaden"},
-        {"cmdRepairElec", "Electrical Damage", "elektrischer Schaden"},
-        {"cmdRepairDam", "Damage Control", "Schadenskontrolle "},
-        {"cmdRepairBridge", "Bridge Damage", "Schaden an der Brücke"},
-        {"cmdRepairRadar", "Radar Damage", "Radarschaden"},
-    };
-    const struct
-    {
-        const char* name;
-        const char* english;
-        const char* german;
-    } checks[] = {
-        {"chkPropSys", "Propulsion System Destroyed:", "Propulsion System Destroyed:"},
-        {"chkManeuver", "Maneuvering System Destroyed", "Maneuvering System Destroyed"},
-        {"chkElectrical", "Electrical System Destroyed", "Electrical System Destroyed"},
-        {"chkDamage", "Damage Control Destroyed", "Damage Control Destroyed"},
-        {"chkBridge", "Bridge Control Destroyed", "Bridge Control Destroyed"},
-        {"chkRadar", "Radar Control Destroyed", "Radar Control Destroyed"},
-        {"chkSL_Port1", "Searchlights Port 1", "Scheinwerfer B 1"},
-        {"chkSL_Port2", "Searchlights Port 2", "Scheinwerfer B 2"},
-        {"chkSL_Strb1", "Searchlights Strb 1", "Scheinwerfer S 1"},
-        {"chkSL_Strb2", "Searchlights Strb 2", "Scheinwerfer S 2"},
-        {"chkDir1", "Fire Director 1", "Feuerleitstelle 1"},
-        {"chkDir2", "Fire Director 2", "Feuerleitstelle 2"},
-    };
-    for (const Language language : {Language::English, Language::German}) {
-        const bool german = language == Language::German;
-        openExeter(language);
-        for (const auto& row : buttons) {
-            EXPECT_EQ(plain(button(row.name)->text()), QString::fromUtf8(german ? row.german : row.english));
-        }
-        for (const auto& row : checks) {
-            EXPECT_EQ(plain(box(row.name)->text()), QString::fromUtf8(german ? row.german : row.english));
-        }
-        EXPECT_EQ(frame("Frame10")->title(),
-                  german ? u"Scheinwerfer zerstört"_s : u"Searchlights Destroyed"_s);
-        EXPECT_EQ(frame("Frame11")->title(),
-                  german ? u"Feuerleitstelle zerstört"_s : u"Fire Directors Destroyed"_s);
-        EXPECT_EQ(entries(list("cmbManeuver")), german ? QStringList({"Backbord", "Mitte", "Steuerbord"})
-                                                       : QStringList({"Port", "Center", "Strb"}));
-    }
+    expectShown(captions);
+    EXPECT_EQ(entries(list("cmbManeuver")), QStringList({"Backbord", "Mitte", "Steuerbord"}));
+    openExeter(Language::English);
+    EXPECT_EQ(entries(list("cmbManeuver")), QStringList({"Port", "Center", "Strb"}));
 }
 
 TEST_F(ShipSystemsPage, ARepairButtonShowsItsRowAloneAndLocksTheDialog)
@@ -297,6 +276,31 @@ TEST_F(ShipSystemsPage, TheRudderIsStoredAsItsCaption)
     pick(onItsPage(list("cmbManeuver")), "Port");
     save();
     EXPECT_EQ(stored("MANUEVERSYSTEMDIRECTION"), u"Port"_s);
+}
+
+TEST_F(ShipSystemsPage, TheNextShipDoesNotTakeOverWhatIsDestroyedOnThisOne)
+{
+    startPastSplash(Language::English);
+    putShip(u"Exeter"_s);
+    putShip(u"Graf Spee"_s, u"DIVISION1SHIP0"_s);
+    for (const Row& row : rows) {
+        store(row.key, "-1");
+        store(row.key, "0", "DIVISION1SHIP0");
+    }
+    open(u"CA Exeter"_s);
+    for (const Row& row : rows) {
+        EXPECT_TRUE(box(row.box)->isChecked()) << row.box;
+    }
+    cancel();
+    open(u"CA G. Spee"_s);
+    for (const Row& row : rows) {
+        EXPECT_FALSE(box(row.box)->isChecked()) << row.box;
+    }
+    save();
+    for (const Row& row : rows) {
+        EXPECT_EQ(stored(row.key, "DIVISION1SHIP0"), u"0"_s) << row.key;
+        EXPECT_EQ(stored(row.key), u"-1"_s) << row.key;
+    }
 }
 
 TEST_F(ShipSystemsPage, TheKeysWithoutAControlStay)
