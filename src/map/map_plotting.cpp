@@ -1,5 +1,6 @@
 #include "map/map_plotting.h"
 
+#include "map/named_overflow.h"
 #include "platform/number_text.h"
 #include "store/profile_keys.h"
 #include "store/ship_catalogue.h"
@@ -85,6 +86,25 @@ struct PlottedDivision
     std::int32_t flagship; ///< from 1
 };
 
+/// What a file holds may be of any length; a box has to show it.
+QString shownOf(const QString& value)
+{
+    constexpr qsizetype longest = 40;
+    return value.size() > longest ? value.left(longest) + QStringLiteral("...") : value;
+}
+
+/// A value of the profile as the author finds it there.
+QString namedValue(QStringView key, const QString& value, const QString& section)
+{
+    return QStringLiteral("%1 %2 of %3").arg(key, shownOf(value), section);
+}
+
+QString namedPosition(const QString& x, const QString& z, const QString& section, const QString& shortName)
+{
+    return QStringLiteral("XPOSITION %1, ZPOSITION %2 of %3 (%4)")
+        .arg(shownOf(x), shownOf(z), section, shownOf(shortName));
+}
+
 /// Nothing if one of the keys is missing.
 std::optional<PlottedDivision> readDivision(const WorkingProfile& profile, const QString& section)
 {
@@ -96,11 +116,16 @@ std::optional<PlottedDivision> readDivision(const WorkingProfile& profile, const
         }
     }
     const auto& [name, side, formation, heading, spacing, speed, ships, flagship] = values;
+    const auto number = [&section](QStringView key, const QString& value, auto convert) {
+        return namingOverflow([&] { return namedValue(key, value, section); },
+                              [&] { return convert(numberValue(value)); });
+    };
     return PlottedDivision{.name = name,
                            .side = sideOfWord(side),
-                           .heading = toInt16(numberValue(heading)),
-                           .ships = toInt16(numberValue(ships)),
-                           .flagship = toInt32(roundEven(numberValue(flagship)) + 1)};
+                           .heading = number(u"FORMATIONHEADING", heading, toInt16),
+                           .ships = number(u"SHIPCNT", ships, toInt16),
+                           .flagship = number(u"FLAGSHIPINDEX", flagship,
+                                              [](double index) { return toInt32(roundEven(index) + 1); })};
 }
 
 } // namespace
@@ -162,7 +187,7 @@ EditShipEntry editShipEntry(const PlottedShip& ship)
             .caption = ship.type + QLatin1Char(' ') + name};
 }
 
-void appendTargetArea(MapState& state, MarkList& marks)
+static void appendMarksOfTarget(MapState& state, MarkList& marks)
 {
     const ViewState& view = state.view;
     TargetArea& area = state.target.area;
@@ -179,6 +204,14 @@ void appendTargetArea(MapState& state, MarkList& marks)
     const Yards snapped = toWorld(centre, view);
     area.x = snapped.x;
     area.z = snapped.z;
+}
+
+void appendTargetArea(MapState& state, MarkList& marks)
+{
+    const auto named = [&area = state.target.area] {
+        return QStringLiteral("target area at %1 X %2").arg(area.x).arg(area.z);
+    };
+    namingOverflow(named, [&] { appendMarksOfTarget(state, marks); });
 }
 
 MapPlotter::MapPlotter(const WorkingProfile& profile, ShipCatalogue& catalogue, MapState& state,
@@ -207,21 +240,25 @@ void MapPlotter::drawDivisions(bool day, const RingDrawer& rings, MapPicture& pi
                              .number = number,
                              .flagship = number == division->flagship,
                              .side = division->side};
-            plotShip(ship, positionOf(key(u"XPOSITION"), key(u"ZPOSITION")), day, rings, picture);
+            plotShip(ship, {.section = place, .x = key(u"XPOSITION"), .z = key(u"ZPOSITION")}, day, rings,
+                     picture);
         }
     }
 }
 
-void MapPlotter::plotShip(PlottedShip& ship, Yards position, bool day, const RingDrawer& rings,
-                          MapPicture& picture)
+void MapPlotter::plotShip(PlottedShip& ship, const WrittenPosition& written, bool day,
+                          const RingDrawer& rings, MapPicture& picture)
 {
+    const auto named = [&] { return namedPosition(written.x, written.z, written.section, ship.shortName); };
+    const Yards position = namingOverflow(named, [&] { return positionOf(written.x, written.z); });
     anchorFromPosition(m_state.view, day);
     m_state.shipLengthYards = m_catalogue.lengthUnits(ship.shipClass).value_or(m_state.shipLengthYards);
     const float scale = m_state.view.mapScale;
     ship.at = toScreen(position, m_state.view);
     ship.lengthPx = toInt32(numberValue(textOf(static_cast<float>(m_state.shipLengthYards) / scale)));
     m_state.shipLengthYards = ship.lengthPx;
-    appendShipMarks(ship, m_state.toggles.namesMode, m_divisionMark, picture.marks);
+    namingOverflow(named,
+                   [&] { appendShipMarks(ship, m_state.toggles.namesMode, m_divisionMark, picture.marks); });
     if (rings) {
         rings(ship, picture.marks);
     }
@@ -231,16 +268,20 @@ void MapPlotter::plotShip(PlottedShip& ship, Yards position, bool day, const Rin
 void MapPlotter::drawSeparationRings(MarkList& marks) const
 {
     const ViewState& view = m_state.view;
+    const PixelOffset radius = flooredOffsetOf({.x = separationYards, .z = 0}, view.mapScale);
     for (int n = 0; n < divisionSections; ++n) {
         if (m_profile.GetIniKey(divisionSection(n), u"DIVISIONNAME") == invalidValue) {
             return;
         }
         for (int m = 0; m < shipsRinged; ++m) {
-            const auto key = [&](QStringView name) { return m_profile.GetIniKey(shipSection(n, m), name); };
+            const QString section = shipSection(n, m);
+            const auto key = [&](QStringView name) { return m_profile.GetIniKey(section, name); };
+            const QString x = key(u"XPOSITION");
+            const QString z = key(u"ZPOSITION");
+            const auto named = [&] { return namedPosition(x, z, section, key(u"SHORTNAME")); };
             const PixelOffset offset =
-                flooredOffsetOf(positionOf(key(u"XPOSITION"), key(u"ZPOSITION")), view.mapScale);
+                namingOverflow(named, [&] { return flooredOffsetOf(positionOf(x, z), view.mapScale); });
             if (offset.x != 0 && offset.z != 0) {
-                const PixelOffset radius = flooredOffsetOf({.x = separationYards, .z = 0}, view.mapScale);
                 marks.push_back(CircleMark{.centre = fromOrigin(offset, view), .radius = radius.x});
             }
         }

@@ -128,14 +128,23 @@ public:
 
     /// Ships with their labels and rings, in the order of the profile. Ends at the first division that lacks
     /// a key. Sets the view's scale and anchor by the cursor at each ship. Throws RuntimeError for a number
-    /// beyond its bits; `picture` then holds what came before.
+    /// beyond its bits, which it names as the profile has it; `picture` then holds what came before.
     void drawDivisions(bool day, const RingDrawer& rings, MapPicture& picture);
 
-    /// A circle of 1,000 yards round every ship that lies on neither axis. Throws Overflow.
+    /// A circle of 1,000 yards round every ship that lies on neither axis. Throws Overflow, for a scale of 0
+    /// also where there is no ship.
     void drawSeparationRings(MarkList& marks) const;
 
 private:
-    void plotShip(PlottedShip& ship, Yards position, bool day, const RingDrawer& rings, MapPicture& picture);
+    /// A ship's position as the profile has it.
+    struct WrittenPosition
+    {
+        QString section;
+        QString x;
+        QString z;
+    };
+    void plotShip(PlottedShip& ship, const WrittenPosition& written, bool day, const RingDrawer& rings,
+                  MapPicture& picture);
 
     const WorkingProfile& m_profile;
     ShipCatalogue& m_catalogue;

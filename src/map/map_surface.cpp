@@ -10,6 +10,8 @@
 #include <QStyle>
 #include <QWheelEvent>
 
+#include <cstdlib>
+
 namespace torvane {
 
 namespace {
@@ -92,9 +94,13 @@ void MapBox::mouseMoveEvent(QMouseEvent* event)
 
 void MapBox::wheelEvent(QWheelEvent* event)
 {
-    QScrollBar* bar = event->modifiers().testFlag(Qt::ShiftModifier) ? m_horizontal : m_vertical;
-    QWheelEvent forBar(event->position(), event->globalPosition(), event->pixelDelta(), event->angleDelta(),
-                       event->buttons(), Qt::NoModifier, event->phase(), event->inverted());
+    const QPoint turn = event->angleDelta();
+    const bool aside = std::abs(turn.x()) > std::abs(turn.y());
+    const bool horizontal = aside || event->modifiers().testFlag(Qt::ShiftModifier);
+    QScrollBar* bar = horizontal ? m_horizontal : m_vertical;
+    QWheelEvent forBar(event->position(), event->globalPosition(), event->pixelDelta(),
+                       aside ? QPoint(turn.x(), 0) : QPoint(0, turn.y()), event->buttons(), Qt::NoModifier,
+                       event->phase(), event->inverted());
     QCoreApplication::sendEvent(bar, &forBar);
     event->accept();
 }
@@ -129,6 +135,8 @@ MapScrollBar::MapScrollBar(Qt::Orientation orientation, int change, QWidget* par
     setSingleStep(change);
     setPageStep(change);
     setFocusPolicy(Qt::StrongFocus);
+    // A menu with words of the platform's, in its language.
+    setContextMenuPolicy(Qt::PreventContextMenu);
     connect(this, &QScrollBar::sliderPressed, this, [this] { m_valueAtPress = value(); });
     connect(this, &QScrollBar::valueChanged, this, [this](int value) {
         Q_EMIT stepped(value, isSliderDown() ? ScrollEvent::Scroll : ScrollEvent::Change);
@@ -285,10 +293,14 @@ void MapSurface::showAnchor(const QString& text)
     m_anchor->setForeColor(palette().color(QPalette::WindowText));
 }
 
-void MapSurface::showScrollValues(int horizontal, int vertical)
+void MapSurface::showHorizontalValue(int value)
 {
-    tell(m_scrollX, QString::number(horizontal));
-    tell(m_scrollY, QString::number(vertical));
+    tell(m_scrollX, QString::number(value));
+}
+
+void MapSurface::showVerticalValue(int value)
+{
+    tell(m_scrollY, QString::number(value));
 }
 
 void MapSurface::showDevelopmentReadOuts()

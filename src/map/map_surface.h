@@ -93,7 +93,8 @@ public:
     void showCursor(const ReadOut& yards);
     /// The anchor, for development.
     void showAnchor(const QString& text);
-    void showScrollValues(int horizontal, int vertical);
+    void showHorizontalValue(int value);
+    void showVerticalValue(int value);
     void showDevelopmentReadOuts();
 
 private:

@@ -1,5 +1,6 @@
 #include "map/map_view.h"
 
+#include "map/named_overflow.h"
 #include "platform/number_text.h"
 
 namespace torvane {
@@ -50,8 +51,13 @@ Yards toWorld(PixelPoint point, const ViewState& view)
 void anchorFromPosition(ViewState& view, bool day)
 {
     view.mapScale = mapScale(view.zoomIndex, day);
-    view.anchorX = toInt16(double{view.cursorYardsX / view.mapScale});
-    view.anchorZ = toInt16(double{view.cursorYardsY / view.mapScale});
+    const auto named = [&view] {
+        return QStringLiteral("position %1 X %2").arg(textOf(view.cursorYardsX), textOf(view.cursorYardsY));
+    };
+    namingOverflow(named, [&view] {
+        view.anchorX = toInt16(double{view.cursorYardsX / view.mapScale});
+        view.anchorZ = toInt16(double{view.cursorYardsY / view.mapScale});
+    });
 }
 
 void anchorFromPointer(ViewState& view, double x, double y)

@@ -20,7 +20,17 @@
 
 namespace torvane {
 
-TacticalMap::TacticalMap(Editor& editor, MapSurface& surface) : m_editor(editor), m_surface(surface) {}
+TacticalMap::TacticalMap(Editor& editor, MapSurface& surface) : m_editor(editor), m_surface(surface)
+{
+    // A map that isn't shown yet is drawn when it is. The read-outs come to the new screen behind it, and are
+    // drawn with it.
+    const auto redraw = [this] {
+        if (m_surface.map().isVisible()) {
+            m_editor.forms().runHandler([this] { redrawMap(); });
+        }
+    };
+    QObject::connect(&surface.map(), &PictureBox::densityChanged, &surface, redraw, Qt::QueuedConnection);
+}
 
 bool TacticalMap::day() const
 {
@@ -57,18 +67,22 @@ void TacticalMap::redrawMap()
     tellOnce(errors);
 }
 
-// A scenario that can't be drawn stays so from redraw to redraw: it is told when it is new.
+// A scenario that can't be drawn stays so from redraw to redraw: it is told when it is new. The texts name
+// what is wrong as the scenario has it, so they stay the same however the view was scrolled or zoomed.
 void TacticalMap::tellOnce(const std::vector<RuntimeError>& errors)
 {
     QStringList texts;
+    std::vector<RuntimeError> fresh;
     for (const RuntimeError& error : errors) {
+        if (!texts.contains(error.text()) && !m_toldErrors.contains(error.text())) {
+            fresh.push_back(error);
+        }
         texts.append(error.text());
     }
-    const QStringList before = std::exchange(m_toldErrors, texts);
-    for (const RuntimeError& error : errors) {
-        if (!before.contains(error.text())) {
-            m_editor.report(error);
-        }
+    // Before the first box: the map may be drawn while it shows.
+    m_toldErrors = texts;
+    for (const RuntimeError& error : fresh) {
+        m_editor.report(error);
     }
 }
 
@@ -184,14 +198,14 @@ void TacticalMap::resized(WindowState state, QSize window, QSize inner)
 void TacticalMap::scrolledHorizontally(int value, ScrollEvent event, WindowState state)
 {
     scrollHorizontally(m_state.view, value, event, state);
-    m_surface.showScrollValues(value, m_state.view.lastVScrollValue);
+    m_surface.showHorizontalValue(value);
     redrawMap();
 }
 
 void TacticalMap::scrolledVertically(int value, ScrollEvent event, WindowState state)
 {
     scrollVertically(m_state.view, value, event, state);
-    m_surface.showScrollValues(m_state.view.lastHScrollValue, value);
+    m_surface.showVerticalValue(value);
     redrawMap();
 }
 

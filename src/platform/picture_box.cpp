@@ -19,6 +19,8 @@ namespace {
 constexpr double smallRadius = 100;
 /// Where a circle goes over from one pixel a column to one pixel a row: half way down its first quarter.
 constexpr double diagonal = 0.70710678118654752;
+/// From a pixel's corner to its middle, where a screen of more than one dot a pixel has a line run.
+constexpr QPointF middle(0.5, 0.5);
 /// Beyond the picture, so that no end of an arc shows at its edge.
 constexpr double margin = 8;
 
@@ -149,19 +151,53 @@ void PictureBox::draw(Drawing drawing)
     update();
 }
 
+bool PictureBox::isDense() const
+{
+    return m_image.devicePixelRatio() != 1;
+}
+
+// A pixel reaches from its own edge to that of the next, each rounded to the screen: so whatever is drawn on
+// one pixel meets, and between two there is no gap.
+void PictureBox::fillPixels(QPainter& painter, QPoint from, QPoint to)
+{
+    const qreal ratio = m_image.devicePixelRatio();
+    const auto edge = [ratio](double pixel) { return std::round(pixel * ratio); };
+    const QPointF first(edge(std::min(from.x(), to.x())), edge(std::min(from.y(), to.y())));
+    const QPointF last(edge(std::max(from.x(), to.x()) + 1.0), edge(std::max(from.y(), to.y()) + 1.0));
+    const QRectF seen = QRectF(first, last) & QRectF(m_image.rect());
+    painter.fillRect(QRectF(seen.topLeft() / ratio, seen.size() / ratio), m_foreColor);
+}
+
 void PictureBox::line(QPoint from, QPoint to)
 {
-    draw([&](QPainter& painter) { painter.drawLine(from, to); });
+    draw([&](QPainter& painter) {
+        if (!isDense()) {
+            painter.drawLine(from, to);
+        } else if (from.x() == to.x() || from.y() == to.y()) {
+            fillPixels(painter, from, to);
+        } else {
+            painter.drawLine(from + middle, to + middle);
+        }
+    });
 }
 
 void PictureBox::box(QPoint from, QPoint to)
 {
-    draw([&](QPainter& painter) { painter.drawRect(boxOf(from, to).adjusted(0, 0, -1, -1)); });
+    draw([&](QPainter& painter) {
+        if (!isDense()) {
+            painter.drawRect(boxOf(from, to).adjusted(0, 0, -1, -1));
+            return;
+        }
+        for (const QPoint corner : {QPoint(from.x(), to.y()), QPoint(to.x(), from.y())}) {
+            fillPixels(painter, from, corner);
+            fillPixels(painter, corner, to);
+        }
+    });
 }
 
 void PictureBox::filledBox(QPoint from, QPoint to)
 {
-    draw([&](QPainter& painter) { painter.fillRect(boxOf(from, to), m_foreColor); });
+    draw([&](QPainter& painter) { fillPixels(painter, from, to); });
 }
 
 void PictureBox::circle(QPoint centre, int radius)
@@ -174,15 +210,15 @@ void PictureBox::circle(QPoint centre, int radius)
         return;
     }
     draw([&](QPainter& painter) {
-        if (m_image.devicePixelRatio() == 1) {
+        if (!isDense()) {
             CirclePixels(m_image, centre, size, m_foreColor.rgb()).plot();
         } else if (radius == 0) {
-            painter.drawPoint(centre);
+            fillPixels(painter, centre, centre);
         } else if (size <= smallRadius || area.contains(bounds)) {
-            painter.drawEllipse(centre, static_cast<int>(size), static_cast<int>(size));
+            painter.drawEllipse(centre + middle, size, size);
         } else {
             // The drawing library takes time for all of a circle, seen or not, and can't take large ones.
-            for (const Curve& curve : visibleArcs(centre, size, area)) {
+            for (const Curve& curve : visibleArcs(centre + middle, size, area)) {
                 painter.drawPolyline(curve.data(), static_cast<int>(curve.size()));
             }
         }
@@ -217,6 +253,21 @@ void PictureBox::paintEvent(QPaintEvent* event)
 void PictureBox::resizeEvent(QResizeEvent* event)
 {
     growImage(event->size());
+}
+
+bool PictureBox::event(QEvent* event)
+{
+    const bool handled = QWidget::event(event);
+    bool screenChanged = event->type() == QEvent::ScreenChangeInternal;
+#if QT_VERSION >= QT_VERSION_CHECK(6, 6, 0)
+    screenChanged = screenChanged || event->type() == QEvent::DevicePixelRatioChange;
+#endif
+    if (screenChanged && devicePixelRatioF() != m_image.devicePixelRatio()) {
+        growImage(size());
+        update();
+        Q_EMIT densityChanged();
+    }
+    return handled;
 }
 
 void PictureBox::growImage(QSize size)

@@ -9,8 +9,10 @@
 
 namespace torvane {
 
-/// A persistent drawing surface in pixels: what was drawn stays until `clear` or a change of size. The widget
-/// shows the image; exposing it draws nothing anew. Lines are one pixel wide and not smoothed.
+/// A persistent drawing surface in pixels: what was drawn stays until `clear`; a change of size keeps what is
+/// inside. The widget shows the image; exposing it draws nothing anew. Lines are one pixel wide and not
+/// smoothed. On a screen with several dots a pixel, lines, boxes, circles and fills lie on the same dots of a
+/// pixel.
 class PictureBox : public QWidget
 {
     Q_OBJECT
@@ -60,12 +62,21 @@ public:
         PictureBox& m_picture;
     };
 
+Q_SIGNALS:
+    /// The picture came to a screen with more or fewer dots a pixel. What was drawn is enlarged or reduced
+    /// until it is drawn anew.
+    void densityChanged();
+
 protected:
+    bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 
 private:
     void growImage(QSize size);
+    bool isDense() const;
+    /// The box with these corners.
+    void fillPixels(QPainter& painter, QPoint from, QPoint to);
     /// Draws with a painter that has the fore colour.
     template <typename Drawing>
     void draw(Drawing drawing);

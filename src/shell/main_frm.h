@@ -34,7 +34,11 @@ public:
     QLineEdit* const txtYPosition = hiddenControl<QLineEdit>("txtYPosition");
     QCheckBox* const ChkPlotDiv = hiddenControl<QCheckBox>("ChkPlotDiv");
     QCheckBox* const chkBombardment = hiddenControl<QCheckBox>("chkBombardment");
-    QCheckBox* const chkDayNight = hiddenControl<QCheckBox>("chkDayNight");
+    QCheckBox* const chkDayNight = [this] {
+        auto* box = hiddenControl<QCheckBox>("chkDayNight");
+        box->setText(QStringLiteral("Day On"));
+        return box;
+    }();
     QCheckBox* const chkUnloadZoom = hiddenControl<QCheckBox>("chkUnloadZoom");
     QCheckBox* const chkUnloadGrid = hiddenControl<QCheckBox>("chkUnloadGrid");
     QLabel* const lblupDivCnt = hiddenControl<QLabel>("lblupDivCnt");

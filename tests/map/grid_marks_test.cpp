@@ -134,6 +134,20 @@ TEST(Grid, TakesSpacingAndScaleOfTheViewsLevel)
     EXPECT_EQ(columns(gridMarks(view, true, false))[1].from.x, 13 + 26);
 }
 
+// At 80 yards a pixel: 62.5, 187.5 and 125 pixels, and of the last one half 62.5.
+TEST(Grid, RoundsItsStepAndItsStartToTheEvenPixel)
+{
+    ViewState view;
+    view.zoomIndex = 3;
+    view.gridIndex = 3;
+    EXPECT_THAT(each(columns(gridMarks(view, true, false)), column),
+                ElementsAre(31, 93, 155, 217, 279, 341, 403, 465, 527, 589));
+    view.gridIndex = 1;
+    EXPECT_THAT(each(columns(gridMarks(view, true, false)), column), ElementsAre(94, 282, 470));
+    view.gridIndex = 2;
+    EXPECT_THAT(each(columns(gridMarks(view, true, false)), column), ElementsAre(62, 187, 312, 437, 562));
+}
+
 TEST(Grid, DoesNotMoveWithTheScrolledView)
 {
     ViewState scrolled;

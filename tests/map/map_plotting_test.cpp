@@ -188,6 +188,52 @@ TEST_F(Plotting, ANumberBeyondItsBitsEndsTheDrawingWithWhatCameBeforeIt)
     }
 }
 
+TEST_F(Plotting, AnOverflowNamesTheValueAsTheProfileHasItWhateverTheScaleAndTheOrigin)
+{
+    const auto told = [this] {
+        MapPicture picture;
+        try {
+            plotter.drawDivisions(true, RingDrawer(), picture);
+        } catch (const RuntimeError& error) {
+            EXPECT_EQ(error.number(), RuntimeError::Overflow);
+            return error.text();
+        }
+        return QString();
+    };
+    addDivision(0);
+    addShip(0, 0, QStringLiteral("A"), 3000000, -7);
+    const QString far =
+        QStringLiteral("Overflow: XPOSITION 3000000, ZPOSITION -7 of DIVISION0SHIP0 (A) is out of range.");
+    EXPECT_EQ(told(), far);
+    state.view.mapOriginX += 10;
+    EXPECT_EQ(told(), far);
+    state.view.zoomIndex = 8; // 20 yards a pixel
+    EXPECT_EQ(told(), far);
+    set(QStringLiteral("DIVISION0SHIP0"), "XPOSITION", QStringLiteral("3e9"));
+    EXPECT_EQ(told(),
+              QStringLiteral("Overflow: XPOSITION 3e9, ZPOSITION -7 of DIVISION0SHIP0 (A) is out of range."));
+    for (const auto& [key, huge] : {std::pair{"FORMATIONHEADING", "99999"}, std::pair{"SHIPCNT", "40000"},
+                                    std::pair{"FLAGSHIPINDEX", "2147483647"}}) {
+        addDivision(0);
+        set(QStringLiteral("DIVISION0"), key, QString::fromLatin1(huge));
+        EXPECT_EQ(told(), QStringLiteral("Overflow: %1 %2 of DIVISION0 is out of range.").arg(key, huge));
+    }
+}
+
+TEST_F(Plotting, AnOverflowShowsALongValueInPart)
+{
+    addDivision(0);
+    set(QStringLiteral("DIVISION0"), "SHIPCNT", QString(1000, QLatin1Char('9')));
+    MapPicture picture;
+    try {
+        plotter.drawDivisions(true, RingDrawer(), picture);
+        FAIL() << "drawn";
+    } catch (const RuntimeError& error) {
+        EXPECT_EQ(error.text(), QStringLiteral("Overflow: SHIPCNT %1... of DIVISION0 is out of range.")
+                                    .arg(QString(40, QLatin1Char('9'))));
+    }
+}
+
 TEST_F(Plotting, ACatalogueThatIsGoneEndsTheDrawingWithItsError)
 {
     addDivision(0);
@@ -261,6 +307,17 @@ TEST_F(SeparationRings, SkipAShipOnEitherAxis)
     EXPECT_EQ(separationRings().size(), 1U);
 }
 
+TEST_F(SeparationRings, RoundThePositionBeforeTheyTakeItsWholePixels)
+{
+    addDivision(0);
+    addShip(0, 0, QStringLiteral("A"), 0, 500);
+    set(QStringLiteral("DIVISION0SHIP0"), "XPOSITION", QStringLiteral("9.6")); // 10 yards: a pixel
+    EXPECT_THAT(separationRings(),
+                ElementsAre(Mark(CircleMark{.centre = {313, 258}, .radius = 100, .colour = 0})));
+    set(QStringLiteral("DIVISION0SHIP0"), "XPOSITION", QStringLiteral("9.4"));
+    EXPECT_THAT(separationRings(), IsEmpty());
+}
+
 TEST_F(SeparationRings, EndAtTheTenthPlaceWhateverTheDivisionCounts)
 {
     addDivision(0, "Blue", "Division 1", 1);
@@ -283,6 +340,14 @@ TEST_F(SeparationRings, OfNoScaleAreAnOverflow)
 {
     addDivision(0);
     addShip(0, 0, QStringLiteral("A"), 500, 500);
+    state.view.mapScale = 0;
+    expectError(RuntimeError::Overflow, [this] { separationRings(); });
+}
+
+// Their radius is reckoned before the ships are looked for.
+TEST_F(SeparationRings, OfNoScaleAreAnOverflowAlsoInAnEmptyScenario)
+{
+    EXPECT_THAT(separationRings(), IsEmpty());
     state.view.mapScale = 0;
     expectError(RuntimeError::Overflow, [this] { separationRings(); });
 }

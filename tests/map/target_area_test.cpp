@@ -43,6 +43,35 @@ TEST(TargetAreaMarks, FollowTheSizeOfTheArea)
     EXPECT_EQ(std::get<CircleMark>(marksFor(state).front()).radius, 0);
 }
 
+// 10,127 yards are 42.2 and 337.6 pixels.
+TEST(TargetAreaMarks, RoundTheSizeInYardsInPixelsAndItsHalf)
+{
+    MapState state = stateAt(240);
+    EXPECT_EQ(std::get<CircleMark>(marksFor(state).front()).radius, 21);
+    state.view.mapScale = 30;
+    EXPECT_EQ(std::get<CircleMark>(marksFor(state).front()).radius, 169);
+    state.view.mapScale = 10;
+    state.target.area.dim = 1563; // 1,709 yards: 171 pixels, half of which ties to 86
+    EXPECT_EQ(std::get<CircleMark>(marksFor(state).front()).radius, 86);
+    state.target.area.dim = 1623; // 1774.9 yards are 1,775: 177.5 pixels tie to 178
+    EXPECT_EQ(std::get<CircleMark>(marksFor(state).front()).radius, 89);
+}
+
+TEST(TargetAreaMarks, BeyondThirtyTwoBitsAreToldByTheAreaWhateverTheScale)
+{
+    for (const float scale : {10.0F, 240.0F}) {
+        MapState state = stateAt(scale);
+        state.target.area.x = 2147483647; // the middle of its pixel lies beyond
+        expectError(RuntimeError::Overflow, [&] { marksFor(state); });
+        try {
+            marksFor(state);
+        } catch (const RuntimeError& error) {
+            EXPECT_EQ(error.text(),
+                      QStringLiteral("Overflow: target area at 2147483647 X 0 is out of range."));
+        }
+    }
+}
+
 TEST(TargetAreaMarks, OfAnArmedAreaStandAtTheAnchorInPixelsOfTheView)
 {
     MapState state = stateAt(60);

@@ -2,6 +2,7 @@
 
 #include "platform/runtime_error.h"
 #include "shell/commands.h"
+#include "store/side.h"
 #include "support/printers.h"
 
 #include <QAction>
@@ -221,6 +222,45 @@ TEST_F(Menus, APlotHidesTheShipsOfDivisionsOneToFourButTheFirst)
                           division > 4 || ship == 1)
                     << division << '/' << ship;
             }
+        }
+    }
+}
+
+TEST_F(Menus, AShipOfADivisionWithoutAPlaceOpensItsForceAndShowsNothing)
+{
+    menu.hideEditShipMenus();
+    menu.showEditShips(
+        {{.side = Side::Red, .division = 0, .ship = 2, .caption = QStringLiteral("DD Cossack")}});
+    EXPECT_TRUE(at("mnuEditShipForceB").isEnabled());
+    EXPECT_FALSE(at("mnuEditShipForceA").isEnabled());
+    for (const bool forceA : {true, false}) {
+        for (int division = 1; division <= 6; ++division) {
+            EXPECT_FALSE(menu.action(shipDivisionName(forceA, division))->isVisible()) << division;
+            for (int ship = 1; ship <= shipEntries(division); ++ship) {
+                const QAction* entry = menu.action(shipEntryName(forceA, division, ship));
+                EXPECT_EQ(entry->isVisible(), division <= 4 && ship == 1) << division << '/' << ship;
+                EXPECT_NE(entry->text(), QStringLiteral("DD Cossack"));
+            }
+        }
+    }
+}
+
+TEST_F(Menus, EditShipEntriesOfDivisionsFiveAndSixOutlastAReset)
+{
+    std::vector<EditShipEntry> ships;
+    for (const Side side : {Side::Blue, Side::Red}) {
+        for (const int division : {4, 5, 6}) {
+            ships.push_back(
+                {.side = side, .division = division, .ship = 2, .caption = QStringLiteral("DD Cossack")});
+        }
+    }
+    menu.showEditShips(ships);
+    menu.resetForceMenus();
+    menu.hideEditShipMenus();
+    for (const bool forceA : {true, false}) {
+        for (const int division : {4, 5, 6}) {
+            EXPECT_EQ(menu.action(shipDivisionName(forceA, division))->isVisible(), division > 4);
+            EXPECT_EQ(menu.action(shipEntryName(forceA, division, 2))->isVisible(), division > 4);
         }
     }
 }

@@ -252,5 +252,95 @@ TEST_F(Picture, GrowingKeepsWhatThereIsAndShowsGround)
     EXPECT_EQ(at(90, 70), QColor(Qt::white));
 }
 
+/// A picture that can be taken to a screen of another density.
+class TravellingPicture : public PictureBox
+{
+public:
+    void comeTo(double density)
+    {
+        m_density = density;
+        QEvent arrival(QEvent::ScreenChangeInternal);
+        QCoreApplication::sendEvent(this, &arrival);
+    }
+
+protected:
+    int metric(PaintDeviceMetric which) const override
+    {
+        switch (which) {
+        case PdmDevicePixelRatio:
+            return static_cast<int>(std::ceil(m_density));
+        case PdmDevicePixelRatioScaled:
+            return static_cast<int>(m_density * devicePixelRatioFScale());
+        default:
+            return PictureBox::metric(which);
+        }
+    }
+
+private:
+    double m_density = 1;
+};
+
+class TravellingPictures : public ::testing::Test
+{
+protected:
+    TravellingPictures()
+    {
+        box.resize(60, 40);
+        box.setBackColor(Qt::white);
+        QObject::connect(&box, &PictureBox::densityChanged, [this] { ++changes; });
+    }
+    QColor at(int x, int y) const { return box.image().pixelColor(x, y); }
+
+    TravellingPicture box;
+    int changes = 0;
+};
+
+TEST_F(TravellingPictures, TakeTheDensityOfTheScreenTheyComeToAndKeepWhatIsDrawn)
+{
+    box.filledBox({10, 5}, {20, 9});
+    box.comeTo(2);
+    EXPECT_EQ(box.image().size(), QSize(120, 80));
+    EXPECT_EQ(box.image().devicePixelRatio(), 2.0);
+    EXPECT_EQ(at(20, 10), QColor(Qt::black)) << "enlarged until it is drawn anew";
+    EXPECT_EQ(at(41, 19), QColor(Qt::black));
+    EXPECT_EQ(at(16, 10), QColor(Qt::white));
+    EXPECT_EQ(changes, 1);
+    box.comeTo(1);
+    EXPECT_EQ(box.image().size(), QSize(60, 40));
+    EXPECT_EQ(at(15, 7), QColor(Qt::black));
+    EXPECT_EQ(changes, 2);
+}
+
+TEST_F(TravellingPictures, AreLeftAloneByAScreenOfTheSameDensity)
+{
+    box.comeTo(1);
+    EXPECT_EQ(changes, 0);
+}
+
+// A pixel is then one dot or two: whatever is drawn on it has to take the same.
+TEST_F(TravellingPictures, AtOneDotAndAHalfLinesBoxesAndFillsMeet)
+{
+    box.comeTo(1.5);
+    ASSERT_EQ(box.image().size(), QSize(90, 60));
+    for (int i = 0; i < 20; ++i) {
+        const QPoint from(i, i / 2);
+        const QPoint to(i + 11, i / 2 + 7);
+        box.clear();
+        box.filledBox(from, to);
+        const QImage filled = box.image();
+        box.box(from, to);
+        ASSERT_EQ(box.image(), filled) << "the outline lies on the fill, at " << i;
+        box.clear();
+        box.box(from, to);
+        box.filledBox(from + QPoint(1, 1), to - QPoint(1, 1));
+        ASSERT_EQ(box.image(), filled) << "and no dot is left between them, at " << i;
+        box.clear();
+        for (int y = from.y(); y <= to.y(); ++y) {
+            box.line({from.x(), y}, {to.x(), y});
+        }
+        ASSERT_EQ(box.image(), filled) << "lines side by side, at " << i;
+    }
+}
+
 } // namespace
 } // namespace torvane::testing
