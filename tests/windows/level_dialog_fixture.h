@@ -68,8 +68,9 @@ protected:
     void expectLoadedAtFirstNeed(const char* designName)
     {
         const auto windows = [designName] {
-            return std::ranges::count(QApplication::topLevelWidgets(), QLatin1StringView(designName),
-                                      &QObject::objectName);
+            return std::ranges::count_if(QApplication::topLevelWidgets(), [designName](const QWidget* each) {
+                return each->objectName() == QLatin1StringView(designName);
+            });
         };
         start();
         EXPECT_EQ(windows(), 0) << "while the splash screen shows";

@@ -2,6 +2,7 @@
 
 #include "map_fixture.h"
 #include "overview/overview_frm.h"
+#include "platform/bilingual.h"
 #include "platform/picture_button.h"
 
 #include <QApplication>
