@@ -25,14 +25,6 @@ protected:
     const QColor sea{1, 176, 235};
     const QColor white{255, 255, 255};
 };
-const QColor white{255, 255, 255};
-const QColor green{0, 255, 0};
-const QColor yellow{255, 255, 0};
-const QColor blue{0, 0, 255};
-const QColor brown{128, 64, 0};
-const QColor rust{192, 64, 0};
-const QColor orange{255, 128, 0};
-};
 
 TEST_F(Tools, StandInTheirPlaces)
 {
