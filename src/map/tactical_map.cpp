@@ -303,7 +303,12 @@ void TacticalMap::toggleMeasureTool()
 void TacticalMap::keyTyped(const QString& character)
 {
     applyRingKey(m_state.toggles, character);
-    redrawMap();
+    // Any redraw places an armed target area. Space and Enter leave that to the click that follows them,
+    // which draws the map anew itself.
+    const bool clicks = character == u" " || character == u"\r";
+    if (!clicks || !m_state.target.armed) {
+        redrawMap();
+    }
 }
 
 void TacticalMap::mousePressed(Qt::MouseButton button, QPointF position)
