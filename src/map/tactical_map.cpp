@@ -202,9 +202,10 @@ void TacticalMap::scrolledHorizontally(int value, ScrollEvent event, WindowState
     if (succeeds([&] { scrollHorizontally(view, value, event, state); }, m_hScrollFailure)) {
         m_surface.showScrollValues(value, view.lastVScrollValue);
         redrawMap();
+    } else {
+        // The first step back leads back.
+        view.lastHScrollValue = value;
     }
-    // Also where the view stayed: the first step back leads back.
-    view.lastHScrollValue = value;
 }
 
 void TacticalMap::scrolledVertically(int value, ScrollEvent event, WindowState state)
@@ -213,8 +214,9 @@ void TacticalMap::scrolledVertically(int value, ScrollEvent event, WindowState s
     if (succeeds([&] { scrollVertically(view, value, event, state); }, m_vScrollFailure)) {
         m_surface.showScrollValues(view.lastHScrollValue, value);
         redrawMap();
+    } else {
+        view.lastVScrollValue = value;
     }
-    view.lastVScrollValue = value;
 }
 
 void TacticalMap::setBackColor()
