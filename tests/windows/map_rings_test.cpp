@@ -134,6 +134,7 @@ TEST_F(Rings, OfAnUnknownTypeAreToldOnceAndEndTheWalkBehindItsHull)
     set(shipSection(0, 1), "XPOSITION", QStringLiteral("3000")); // pixel 362
     set(shipSection(0, 2), "XPOSITION", QStringLiteral("6000")); // pixel 412
     set(QStringLiteral("DIVISION0"), "FLAGSHIPINDEX", QStringLiteral("1"));
+    setConditions("50 %", "50 %", "1", "Off"); // the smallest ring is on the map
     use("cmdVisibCircles");
     ASSERT_EQ(boxes().size(), 1);
     EXPECT_THAT(boxes().first().text.toStdString(), ::testing::HasSubstr("CV"));

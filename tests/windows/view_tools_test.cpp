@@ -1,7 +1,6 @@
 #include "map/view_tools.h"
 
 #include "map_fixture.h"
-#include "overview/overview_frm.h"
 #include "platform/bilingual.h"
 #include "platform/picture_button.h"
 
@@ -185,32 +184,30 @@ TEST_F(Tools, TheDialogsToolsAndTheCornersDrawTheMapAnew)
 
 TEST_F(Tools, NewAndLoadLeaveTogglesAndTheGunRangeAsTheyAre)
 {
-    startPastSplash();
-    addDivision(0, "Blue", 1, 1);
-    for (const char* name :
-         {"cmdGunCircles", "cmdVisibCircles", "cmdRadarCircles", "cmdNameTog", "cmdMapScale"}) {
-        use(name);
-    }
-    press(map(), Qt::Key_C);
-    const MapToggles toggles = state().toggles;
-    ASSERT_EQ(toggles, (MapToggles{.namesMode = 1,
-                                   .scaleLabelsOn = 0,
-                                   .gunRingsOn = 1,
-                                   .visRingsOn = 1,
-                                   .radarRingsOn = 1,
-                                   .ringFilterOn = -1,
-                                   .ringFilterKey = QStringLiteral("C")}));
-    ASSERT_EQ(state().gunRangeValue, 510) << "30650 yards at 60 a pixel";
-    ASSERT_TRUE(chooseMenu(main(), QStringLiteral("mnuNew")));
-    EXPECT_EQ(state().toggles, toggles);
-    EXPECT_EQ(state().gunRangeValue, 510);
     putWorkFile(QStringLiteral("some.scn"), "[SCENARIODATA]\r\nTITLE=Some\r\n");
-    script.fileBoxes.answers = {workFile(QStringLiteral("some.scn"))};
-    click(control<QAbstractButton>(editor().overviewFrm(), QStringLiteral("CmdCancel")));
-    ASSERT_TRUE(chooseMenu(main(), QStringLiteral("mnuLoad")));
-    ASSERT_EQ(editor().workingProfile().GetIniKey(u"SCENARIODATA", u"TITLE"), QStringLiteral("Some"));
-    EXPECT_EQ(state().toggles, toggles);
-    EXPECT_EQ(state().gunRangeValue, 510);
+    for (const char* command : {"mnuNew", "mnuLoad"}) {
+        startPastSplash();
+        addDivision(0, "Blue", 1, 1);
+        for (const char* name :
+             {"cmdGunCircles", "cmdVisibCircles", "cmdRadarCircles", "cmdNameTog", "cmdMapScale"}) {
+            use(name);
+        }
+        press(map(), Qt::Key_C);
+        const MapToggles toggles{.namesMode = 1,
+                                 .scaleLabelsOn = 0,
+                                 .gunRingsOn = 1,
+                                 .visRingsOn = 1,
+                                 .radarRingsOn = 1,
+                                 .ringFilterOn = -1,
+                                 .ringFilterKey = QStringLiteral("C")};
+        ASSERT_EQ(state().toggles, toggles);
+        ASSERT_EQ(state().gunRangeValue, 510) << "30650 yards at 60 a pixel";
+        script.fileBoxes.answers = {workFile(QStringLiteral("some.scn"))};
+        ASSERT_TRUE(chooseMenu(main(), QLatin1StringView(command)));
+        ASSERT_EQ(editor().workingProfile().divisionCount(), 0) << command;
+        EXPECT_EQ(state().toggles, toggles) << command;
+        EXPECT_EQ(state().gunRangeValue, 510) << command;
+    }
 }
 
 TEST_F(Tools, TagsShowUnderThePointerUntilTheHelpTagsAreOff)
