@@ -97,8 +97,8 @@ private:
     MapState m_state;
     MeasureTool m_measure;
     QString m_repositionKey;
-    QStringList m_toldErrors; ///< of the last redraw
-    std::optional<RuntimeError> m_moveFailure; ///< of the last move of the pointer
+    QStringList m_toldErrors;                     ///< of the last redraw
+    std::optional<RuntimeError> m_moveFailure;    ///< of the last move of the pointer
     std::optional<RuntimeError> m_hScrollFailure; ///< of the last event of each bar
     std::optional<RuntimeError> m_vScrollFailure;
 };
