@@ -1,6 +1,6 @@
-// A redraw of the map with 32 ships, with the rings of all families and without, and with 120 ships, beside
-// the drawing of the same marks alone; what 1,000 redraws leave in memory; and circles far larger than the
-// picture beside some inside it.
+// A redraw of the map with 32 ships, with the rings of all families by day and by night and without, and with
+// 120 ships, beside the drawing of the same marks alone; what 1,000 redraws leave in memory; and circles far
+// larger than the picture beside some inside it.
 
 #include "map/draw_marks.h"
 #include "map/map_geometry.h"
@@ -46,8 +46,9 @@ QString className(int number)
 class RunWithShips
 {
 public:
-    RunWithShips(int ships, bool rings, int zoomIndex)
-        : m_divisionSize(ships > shipsOfADivision * divisionSections ? largestDivision : shipsOfADivision),
+    RunWithShips(int ships, bool rings, int zoomIndex, bool day = true)
+        : m_day(day),
+          m_divisionSize(ships > shipsOfADivision * divisionSections ? largestDivision : shipsOfADivision),
           m_divisions(ships / m_divisionSize)
     {
         QDir(m_folder.path()).mkpath(QStringLiteral("ScenarioEditor"));
@@ -57,6 +58,7 @@ public:
         m_editor.splashFrm().hideForm();
         m_editor.mainFrm().showForm();
         QCoreApplication::processEvents();
+        setValue(m_editor.mainFrm().chkDayNight, m_day ? 1 : 0);
         m_editor.forms().runHandler([this] { addShips(); });
         if (rings) {
             for (const char* tool : {"cmdVisibCircles", "cmdGunCircles", "cmdRadarCircles"}) {
@@ -78,17 +80,18 @@ public:
     MarkList marks()
     {
         MapState state = m_editor.mainFrm().map().state();
-        MapPicture picture{.marks = gridMarks(state.view, true, true), .ships = {}};
+        MapPicture picture{.marks = gridMarks(state.view, m_day, true), .ships = {}};
         const EnvironmentValues weather = m_editor.enviroFrm().values();
         RangeRings rings(state,
                          {.visibility = weather.visibility,
                           .radar = weather.radar,
                           .seaState = weather.seaState,
-                          .rain = weather.rain},
+                          .rain = weather.rain,
+                          .day = m_day},
                          m_editor.workingProfile().parsed(), m_editor.shipCatalogue());
         MapPlotter plotter(m_editor.workingProfile(), m_editor.shipCatalogue(), state, QStringLiteral("Div"));
         plotter.drawDivisions(
-            true, [&rings](const PlottedShip& ship, MarkList& list) { rings.appendRings(ship, list); },
+            m_day, [&rings](const PlottedShip& ship, MarkList& list) { rings.appendRings(ship, list); },
             picture);
         return picture.marks;
     }
@@ -154,6 +157,7 @@ private:
         }
     }
 
+    const bool m_day;
     const int m_divisionSize;
     const int m_divisions;
     QTemporaryDir m_folder;
@@ -172,6 +176,7 @@ void countMarks(benchmark::State& state, const MarkList& marks)
 }
 
 constexpr bool withRings = true;
+constexpr bool byDay = true;
 constexpr int levelFive = 4; // its zoomIndex
 
 void floorTheSameMarks(benchmark::State& state, RunWithShips& run)
@@ -201,6 +206,19 @@ void floorOfRings(benchmark::State& state)
 void redrawRings(benchmark::State& state)
 {
     RunWithShips run(32, withRings, static_cast<int>(state.range(0)));
+    redraw(state, run);
+}
+
+// The training of each ship counts then.
+void floorOfRingsByNight(benchmark::State& state)
+{
+    RunWithShips run(32, withRings, static_cast<int>(state.range(0)), !byDay);
+    floorTheSameMarks(state, run);
+}
+
+void redrawRingsByNight(benchmark::State& state)
+{
+    RunWithShips run(32, withRings, static_cast<int>(state.range(0)), !byDay);
     redraw(state, run);
 }
 
@@ -261,6 +279,8 @@ BENCHMARK(floorOfShips)->ArgName("ships")->Arg(32)->Arg(120)->Unit(benchmark::kM
 BENCHMARK(redrawShips)->ArgName("ships")->Arg(32)->Arg(120)->Unit(benchmark::kMillisecond);
 BENCHMARK(floorOfRings)->ArgName("zoomIndex")->Arg(4)->Arg(1)->Arg(10)->Unit(benchmark::kMillisecond);
 BENCHMARK(redrawRings)->ArgName("zoomIndex")->Arg(4)->Arg(1)->Arg(10)->Unit(benchmark::kMillisecond);
+BENCHMARK(floorOfRingsByNight)->ArgName("zoomIndex")->Arg(4)->Unit(benchmark::kMillisecond);
+BENCHMARK(redrawRingsByNight)->ArgName("zoomIndex")->Arg(4)->Unit(benchmark::kMillisecond);
 BENCHMARK(thousandRedraws)->Iterations(1)->Unit(benchmark::kMillisecond);
 BENCHMARK(circle)
     ->ArgName("radius")

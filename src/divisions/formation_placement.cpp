@@ -189,10 +189,11 @@ void FormationPlacement::writeShipPosition(PixelOffset point, const QString& sho
     for (int n = 0; n < divisionSections; ++n) {
         for (int m = 0; m < shipSections; ++m) {
             const QString section = shipSection(n, m);
-            if (m_profile.GetIniKey(section, u"SHORTNAME") != shortName) {
+            const auto key = [&](QStringView name) { return m_profile.GetIniKey(section, name); };
+            if (key(u"SHORTNAME") != shortName || !isShip(key(u"NAME"))) {
                 continue;
             }
-            if (shortName == ambiguousShortName && m_profile.GetIniKey(section, u"CLASS") != shipClass) {
+            if (shortName == ambiguousShortName && key(u"CLASS") != shipClass) {
                 continue;
             }
             m_profile.write(section, u"XPOSITION", QString::number(position.x));

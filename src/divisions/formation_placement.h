@@ -79,7 +79,7 @@ public:
     void rotateShipAboutAnchor(PixelOffset start, std::int16_t heading, const QString& shortName,
                                const QString& shipClass, bool day);
     /// Gives every ship of that short name, of either side, the position of a point. The class counts for
-    /// "Duncan" alone. Takes the view's scale from the table.
+    /// "Duncan" alone. Places without a ship are passed over. Takes the view's scale from the table.
     void writeShipPosition(PixelOffset point, const QString& shortName, const QString& shipClass, bool day);
 
 private:

@@ -10,7 +10,9 @@
 #include <QStyle>
 #include <QWheelEvent>
 
+#include <algorithm>
 #include <cstdlib>
+#include <utility>
 
 namespace torvane {
 
@@ -19,6 +21,10 @@ namespace {
 constexpr int scrollBarSize = 18;
 constexpr int mapFontPixels = 11;
 constexpr int rulerLeft = 320;
+const QColor rulerColor(211, 211, 211); // on every desktop
+// The pointer that keys move: pixels of a large step, and of each arm of its cross.
+constexpr int largeStep = 10;
+constexpr int pointerArm = 7;
 // The read-outs: two rows of number, "X", number.
 constexpr QRect scalePanel(434, 4, 208, 40);
 constexpr QRect leftColumn(0, 2, 96, 17);
@@ -29,6 +35,23 @@ constexpr int rowHeight = 18;
 QRect lowerRow(QRect place)
 {
     return place.translated(0, rowHeight);
+}
+
+/// Which way an arrow key leads; null for another key.
+QPoint directionOf(int key)
+{
+    switch (key) {
+    case Qt::Key_Left:
+        return {-1, 0};
+    case Qt::Key_Right:
+        return {1, 0};
+    case Qt::Key_Up:
+        return {0, -1};
+    case Qt::Key_Down:
+        return {0, 1};
+    default:
+        return {};
+    }
 }
 
 /// Writes a text into a read-out, in its middle row of pixels.
@@ -61,6 +84,9 @@ void MapBox::setBars(QScrollBar* horizontal, QScrollBar* vertical)
 
 void MapBox::keyPressEvent(QKeyEvent* event)
 {
+    if (takePointerKey(*event)) {
+        return;
+    }
     switch (event->key()) {
     case Qt::Key_Left:
     case Qt::Key_Right:
@@ -82,6 +108,47 @@ void MapBox::keyPressEvent(QKeyEvent* event)
     event->ignore();
 }
 
+bool MapBox::takePointerKey(const QKeyEvent& event)
+{
+    const QPoint direction = directionOf(event.key());
+    if (!direction.isNull() && event.modifiers().testFlag(Qt::ControlModifier)) {
+        movePointerBy(direction * (event.modifiers().testFlag(Qt::ShiftModifier) ? largeStep : 1));
+        return true;
+    }
+    if (event.key() != Qt::Key_Space && event.key() != Qt::Key_Return && event.key() != Qt::Key_Enter) {
+        return false;
+    }
+    if (!event.isAutoRepeat()) {
+        // Like any other key it shows all rings first.
+        Q_EMIT typed(event.text());
+        clickAtPointer();
+    }
+    return true;
+}
+
+QPointF MapBox::pointer() const
+{
+    const QPointF at = m_pointer.value_or(rect().center());
+    return {std::clamp(at.x(), 0.0, width() - 1.0), std::clamp(at.y(), 0.0, height() - 1.0)};
+}
+
+void MapBox::movePointerBy(QPointF pixels)
+{
+    m_pointer = pointer() + pixels;
+    const QPointF at = pointer();
+    QMouseEvent move(QEvent::MouseMove, at, mapToGlobal(at), Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(this, &move);
+    m_movedByKey = true;
+    update();
+}
+
+// A click follows a move, which takes the anchor.
+void MapBox::clickAtPointer()
+{
+    movePointerBy({});
+    Q_EMIT pressed(Qt::LeftButton, pointer());
+}
+
 void MapBox::mousePressEvent(QMouseEvent* event)
 {
     Q_EMIT pressed(event->button(), event->position());
@@ -89,6 +156,10 @@ void MapBox::mousePressEvent(QMouseEvent* event)
 
 void MapBox::mouseMoveEvent(QMouseEvent* event)
 {
+    m_pointer = event->position();
+    if (std::exchange(m_movedByKey, false)) {
+        update();
+    }
     Q_EMIT moved(event->position());
 }
 
@@ -114,6 +185,14 @@ void MapBox::paintEvent(QPaintEvent* event)
         pen.setWidth(1);
         painter.setPen(pen);
         painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    }
+    if (m_movedByKey) {
+        QPainter painter(this);
+        painter.setCompositionMode(QPainter::CompositionMode_Difference);
+        painter.setPen(Qt::white);
+        const QPointF at = pointer();
+        painter.drawLine(at - QPointF(pointerArm, 0), at + QPointF(pointerArm, 0));
+        painter.drawLine(at - QPointF(0, pointerArm), at + QPointF(0, pointerArm));
     }
 }
 
@@ -186,7 +265,10 @@ MapSurface::MapSurface(QWidget* parent)
     m_distance->setObjectName(QStringLiteral("lblDistance"));
     m_distance->setGeometry(rulerLeft + 8, 24, 88, 18);
     m_distance->setAutoFillBackground(true);
-    m_distance->setBackgroundRole(QPalette::Midlight);
+    QPalette colors = m_distance->palette();
+    colors.setColor(QPalette::Window, rulerColor);
+    colors.setColor(QPalette::WindowText, Qt::black);
+    m_distance->setPalette(colors);
     m_distance->setAlignment(Qt::AlignCenter);
     m_scalePanel->setObjectName(QStringLiteral("picScaleYards"));
     m_scalePanel->setGeometry(scalePanel);

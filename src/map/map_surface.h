@@ -6,6 +6,7 @@
 #include <QScrollBar>
 
 #include <array>
+#include <optional>
 
 class QAbstractButton;
 class QLabel;
@@ -14,7 +15,9 @@ namespace torvane {
 
 class ToolRow;
 
-/// The tactical map's own picture: takes the mouse and the keys, and shows when it has the focus.
+/// The tactical map's own picture: takes the mouse and the keys, and shows when it has the focus. Keys do
+/// what the mouse does: an arrow with Ctrl moves the pointer by a pixel, with Shift too by ten, and Space and
+/// Enter click. A pointer that a key has moved is drawn on the map until the mouse moves.
 class MapBox : public PictureBox
 {
     Q_OBJECT
@@ -41,8 +44,15 @@ protected:
     void focusOutEvent(QFocusEvent* event) override;
 
 private:
+    bool takePointerKey(const QKeyEvent& event);
+    void movePointerBy(QPointF pixels);
+    void clickAtPointer();
+    QPointF pointer() const;
+
     QScrollBar* m_horizontal = nullptr;
     QScrollBar* m_vertical = nullptr;
+    std::optional<QPointF> m_pointer; ///< where it moved last; none before its first move
+    bool m_movedByKey = false;
 };
 
 /// A scroll bar that counts steps: its value is no position.

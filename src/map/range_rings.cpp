@@ -140,21 +140,34 @@ std::optional<std::int32_t> gunRadius(RecordSource& gunsRang, const QString& shi
     return gunRangeValue;
 }
 
+namespace {
+
+/// The rings of the classes that are drawn; `yardsOf` gives the range against one of them.
+template <typename YardsOf>
+std::vector<Ring> ringsOf(MapColour RingClass::*colour, const MapToggles& toggles, float mapScale,
+                          const YardsOf& yardsOf)
+{
+    std::vector<Ring> rings;
+    for (const RingClass& each : ringClasses) {
+        if (isDrawn(each, toggles)) {
+            rings.push_back({.radius = radiusOf(toInt32(yardsOf(each.number)), mapScale),
+                             .colour = each.*colour,
+                             .label = each.label});
+        }
+    }
+    return rings;
+}
+
+} // namespace
+
 std::vector<Ring> visibilityRings(QStringView type, int training, const RingConditions& conditions,
                                   const MapToggles& toggles, float mapScale)
 {
     const int index = typeIndex(type);
     const std::int16_t percent = toInt16(percentOf(conditions.visibility) + training);
-    std::vector<Ring> rings;
-    for (const RingClass& each : ringClasses) {
-        if (isDrawn(each, toggles)) {
-            const double yards = percent / hundred * rangeOf(visibilityRangeTable, index, each.number);
-            rings.push_back({.radius = radiusOf(toInt32(yards), mapScale),
-                             .colour = each.visibilityColour,
-                             .label = each.label});
-        }
-    }
-    return rings;
+    return ringsOf(&RingClass::visibilityColour, toggles, mapScale, [&](int ringClass) {
+        return percent / hundred * rangeOf(visibilityRangeTable, index, ringClass);
+    });
 }
 
 std::vector<Ring> radarRings(QStringView type, QStringView radarType, const RingConditions& conditions,
@@ -165,17 +178,10 @@ std::vector<Ring> radarRings(QStringView type, QStringView radarType, const Ring
     const double rating = radarRatingPercent(radarType) / hundred;
     const double sea = radarSeaPercent(conditions.seaState) / hundred;
     const double rain = radarRainPercent(conditions.rain) / hundred;
-    std::vector<Ring> rings;
-    for (const RingClass& each : ringClasses) {
-        if (isDrawn(each, toggles)) {
-            // The order of the factors decides where the last bit goes.
-            const double yards = rating * rangeOf(radarRangeTable, index, each.number) * sea * rain * weather;
-            rings.push_back({.radius = radiusOf(toInt32(yards), mapScale),
-                             .colour = each.radarColour,
-                             .label = each.label});
-        }
-    }
-    return rings;
+    return ringsOf(&RingClass::radarColour, toggles, mapScale, [&](int ringClass) {
+        // The order of the factors decides where the last bit goes.
+        return rating * rangeOf(radarRangeTable, index, ringClass) * sea * rain * weather;
+    });
 }
 
 RangeRings::RangeRings(MapState& state, RingConditions conditions, const Profile& profile,

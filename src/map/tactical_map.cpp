@@ -181,6 +181,7 @@ void TacticalMap::centre()
     m_state.view.lastHScrollValue = m_surface.horizontal().value();
     m_state.view.lastVScrollValue = m_surface.vertical().value();
     centreOrigin(m_state.view);
+    m_moveFailure.reset();
 }
 
 void TacticalMap::resized(WindowState state, QSize window, QSize inner)
@@ -195,18 +196,41 @@ void TacticalMap::resized(WindowState state, QSize window, QSize inner)
     redrawMap();
 }
 
+// A drag beyond the end of 16 bits fails at each of its events.
+bool TacticalMap::succeeds(const std::function<void()>& work, std::optional<RuntimeError>& failure)
+{
+    try {
+        work();
+        failure.reset();
+    } catch (const RuntimeError& error) {
+        if (!std::exchange(failure, error)) {
+            m_editor.report(error);
+        }
+    }
+    return !failure;
+}
+
 void TacticalMap::scrolledHorizontally(int value, ScrollEvent event, WindowState state)
 {
-    scrollHorizontally(m_state.view, value, event, state);
-    m_surface.showHorizontalValue(value);
-    redrawMap();
+    ViewState& view = m_state.view;
+    if (succeeds([&] { scrollHorizontally(view, value, event, state); }, m_hScrollFailure)) {
+        m_surface.showHorizontalValue(value);
+        redrawMap();
+    } else {
+        // The first step back leads back.
+        view.lastHScrollValue = value;
+    }
 }
 
 void TacticalMap::scrolledVertically(int value, ScrollEvent event, WindowState state)
 {
-    scrollVertically(m_state.view, value, event, state);
-    m_surface.showVerticalValue(value);
-    redrawMap();
+    ViewState& view = m_state.view;
+    if (succeeds([&] { scrollVertically(view, value, event, state); }, m_vScrollFailure)) {
+        m_surface.showVerticalValue(value);
+        redrawMap();
+    } else {
+        view.lastVScrollValue = value;
+    }
 }
 
 void TacticalMap::setBackColor()
@@ -295,7 +319,12 @@ void TacticalMap::toggleMeasureTool()
 void TacticalMap::keyTyped(const QString& character)
 {
     applyRingKey(m_state.toggles, character);
-    redrawMap();
+    // Any redraw places an armed target area. Space and Enter leave that to the click that follows them,
+    // which draws the map anew itself.
+    const bool clicks = character == u" " || character == u"\r";
+    if (!clicks || !m_state.target.armed) {
+        redrawMap();
+    }
 }
 
 void TacticalMap::mousePressed(Qt::MouseButton button, QPointF position)
@@ -323,6 +352,10 @@ void TacticalMap::mousePressed(Qt::MouseButton button, QPointF position)
 
 void TacticalMap::placeDivision()
 {
+    if (m_moveFailure) {
+        // The anchor is not where the pointer is.
+        throw *m_moveFailure;
+    }
     const HourglassPointer hourglass;
     saveDivPosition();
     m_editor.createDivisionFrm().showPlacement(textOf(m_state.view.cursorYardsX) + QStringLiteral(" X ") +
@@ -342,7 +375,7 @@ void TacticalMap::measure(QPointF position)
 
 void TacticalMap::mouseMoved(QPointF position)
 {
-    anchorFromPointer(m_state.view, position.x(), position.y());
+    succeeds([&] { anchorFromPointer(m_state.view, position.x(), position.y()); }, m_moveFailure);
     readCursor(m_state.view, position.x(), position.y(), day());
     m_surface.showCursor(cursorReadOut(m_state.view));
     showMeasurement(position);

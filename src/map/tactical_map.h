@@ -11,6 +11,8 @@
 #include <QString>
 #include <QStringList>
 
+#include <functional>
+#include <optional>
 #include <vector>
 
 namespace torvane {
@@ -19,7 +21,9 @@ class Editor;
 class MapSurface;
 
 /// The tactical map of the main window: what a click, a key, a scroll bar and a redraw do to it. Handlers of
-/// the main window call these procedures; each may throw RuntimeError where a number leaves its bits.
+/// the main window call these procedures; each may throw RuntimeError where a number leaves its bits. Moves
+/// and scrolls, of which one follows the other, show such an error themselves: once, and again only after one
+/// of their kind that went well.
 class TacticalMap
 {
 public:
@@ -82,6 +86,7 @@ private:
     void drawTargetArea(MarkList& marks);
     void drawSeparationRings(MarkList& marks);
     void tellOnce(const std::vector<RuntimeError>& errors);
+    bool succeeds(const std::function<void()>& work, std::optional<RuntimeError>& failure);
     void saveDivPosition();
     void placeDivision();
     void measure(QPointF position);
@@ -92,7 +97,10 @@ private:
     MapState m_state;
     MeasureTool m_measure;
     QString m_repositionKey;
-    QStringList m_toldErrors; ///< of the last redraw
+    QStringList m_toldErrors;                     ///< of the last redraw
+    std::optional<RuntimeError> m_moveFailure;    ///< of the last move of the pointer
+    std::optional<RuntimeError> m_hScrollFailure; ///< of the last event of each bar
+    std::optional<RuntimeError> m_vScrollFailure;
 };
 
 } // namespace torvane

@@ -2,8 +2,10 @@
 
 #include "divisions/create_division_frm.h"
 #include "map/map_surface.h"
+#include "map/map_tips.h"
 #include "map/tool_row.h"
 #include "overview/overview_frm.h"
+#include "platform/control_captions.h"
 #include "platform/pointer.h"
 #include "scenario_file/save_scenario.h"
 #include "shell/about_frm.h"
@@ -173,6 +175,7 @@ void MainFrm::applyCaptions(Language language)
     m_surface->setRulerCaption(ruler, rulerWidth);
     fitMenuBar();
     m_surface->tools().setCaptions(language);
+    applyControlTips(*m_surface, mapTips, language);
 }
 
 // The German menus are long: the bar's text gives way until they stand in the window's width, and what is

@@ -10,11 +10,6 @@ constexpr QLatin1StringView duncan{"Duncan"};
 /// Places of a division that are looked at; a division has at most as many ships.
 constexpr int ships = 10;
 
-bool isShip(const QString& name)
-{
-    return name != invalidValue && name != noShip;
-}
-
 QString firstSection(const WorkingProfile& profile,
                      const std::function<bool(const QString& section)>& isWanted)
 {

@@ -54,8 +54,7 @@ void zeroDivision(WorkingProfile& profile, int division)
     }
     for (int ship = 0; ship < zeroedShipSections; ++ship) {
         const QString section = shipSection(division, ship);
-        const QString name = profile.GetIniKey(section, u"NAME");
-        if (name != invalidValue && name != noShip) {
+        if (isShip(profile.GetIniKey(section, u"NAME"))) {
             zeroShip(profile, section);
         }
     }

@@ -11,6 +11,11 @@ namespace torvane {
 inline constexpr QLatin1StringView invalidValue{"INVALID"};
 /// Stands in `NAME` of a ship place that has been emptied.
 inline constexpr QLatin1StringView noShip{"NO SHIP"};
+/// Whether a place with this `NAME` holds a ship: it has a section, and has not been emptied.
+inline bool isShip(const QString& name)
+{
+    return name != invalidValue && name != noShip;
+}
 /// Walks over divisions try n from 0 below this, walks over ships m from 0 below that.
 inline constexpr int divisionSections = 12;
 inline constexpr int shipSections = 14;

@@ -257,6 +257,18 @@ TEST_F(Formations, HalfAPixelOfATurnGoesToTheEvenOne)
                                         QStringLiteral("Small"), day);
         EXPECT_EQ(position(0, 0), expected) << distance;
     }
+    // And a point to the right half its distance up. At 30 degrees it is down, where the sine of single
+    // precision is a little more than a half.
+    for (const auto& [heading, distance, expected] : {std::tuple{330, 49, "1420,1760"},
+                                                      {330, 51, "1440,1740"},
+                                                      {330, 53, "1460,1740"},
+                                                      {30, 49, "1420,2250"},
+                                                      {30, 51, "1440,2260"},
+                                                      {30, 53, "1460,2270"}}) {
+        placement.rotateShipAboutAnchor({100 + distance, 200}, static_cast<std::int16_t>(heading),
+                                        QStringLiteral("A0"), QStringLiteral("Small"), day);
+        EXPECT_EQ(position(0, 0), expected) << heading << ' ' << distance;
+    }
 }
 
 /// How far a whole number lies from where the geometry of the plane puts it.
@@ -265,16 +277,26 @@ double miss(int found, double exact)
     return std::abs(found - exact);
 }
 
-/// A line is a ray from the anchor: astern for a column, to starboard for a line of bearing.
-void expectOnTheRay(Yards ship, double bearing, int distance, PixelOffset anchor, const std::string& what)
+/// A line is a ray from the anchor: astern for a column, to starboard for a line of bearing. `distance` in
+/// pixels of `scale` yards.
+void expectOnTheRay(Yards ship, double bearing, int distance, PixelOffset anchor, int scale,
+                    const std::string& what)
 {
     const double radians = bearing * std::numbers::pi / 180;
     // Half a pixel for the rounding, and a little for single precision.
     constexpr double tolerance = 0.501;
-    EXPECT_LE(miss(ship.x / 10, anchor.x + distance * std::sin(radians)), tolerance) << what;
-    EXPECT_LE(miss(ship.z / 10, anchor.z - distance * std::cos(radians)), tolerance) << what;
-    EXPECT_EQ(ship.x % 10, 0) << what;
-    EXPECT_EQ(ship.z % 10, 0) << what;
+    EXPECT_LE(miss(ship.x / scale, anchor.x + distance * std::sin(radians)), tolerance) << what;
+    EXPECT_LE(miss(ship.z / scale, anchor.z - distance * std::cos(radians)), tolerance) << what;
+    EXPECT_EQ(ship.x % scale, 0) << what;
+    EXPECT_EQ(ship.z % scale, 0) << what;
+}
+
+/// Whole numbers divided, to the nearest, ties to even.
+int nearest(int dividend, int divisor)
+{
+    const int floor = dividend / divisor;
+    const int twice = 2 * (dividend % divisor);
+    return twice > divisor || (twice == divisor && floor % 2 == 1) ? floor + 1 : floor;
 }
 
 /// A formation and where its line runs, seen along the course, in degrees.
@@ -290,21 +312,30 @@ class FormationsOfSpacing : public Formations, public ::testing::WithParamInterf
 };
 INSTANTIATE_TEST_SUITE_P(Spacings, FormationsOfSpacing, ::testing::ValuesIn(spacings));
 
+/// The zoom levels whose day and night scales, between them, divide some spacings and cut others.
+constexpr std::array<std::int16_t, 3> scaledLevels{11, 4, 1};
+
 TEST_P(FormationsOfSpacing, EveryLineOnEveryCourseLiesOnItsRay)
 {
     const int spacing = GetParam();
     const ProfileStore::Batch batch(store);
-    for (const Line& line : lines) {
-        make(line.formation, 10, spacing);
-        for (int heading = 0; heading < 360; ++heading) {
-            set(divisionSection(0), "FORMATIONHEADING", QString::number(heading));
-            place();
-            for (int i = 0; i < 10; ++i) {
-                expectOnTheRay(yards(i), heading + line.bearing, i * spacing / 10, view.anchor(),
-                               std::string(line.formation) + ' ' + std::to_string(heading) + ' ' +
-                                   std::to_string(i));
+    for (const std::int16_t zoomIndex : scaledLevels) {
+        view.zoomIndex = zoomIndex;
+        const int scale = mapScale(zoomIndex, day);
+        view.mapScale = static_cast<float>(scale);
+        for (const Line& line : lines) {
+            make(line.formation, 10, spacing);
+            for (int heading = 0; heading < 360; heading += zoomIndex == 11 ? 1 : 29) {
+                set(divisionSection(0), "FORMATIONHEADING", QString::number(heading));
+                place();
+                for (int i = 0; i < 10; ++i) {
+                    expectOnTheRay(yards(i), heading + line.bearing, i * nearest(spacing, scale),
+                                   view.anchor(), scale,
+                                   std::string(line.formation) + ' ' + std::to_string(scale) + ' ' +
+                                       std::to_string(heading) + ' ' + std::to_string(i));
+                }
+                ASSERT_FALSE(HasFailure());
             }
-            ASSERT_FALSE(HasFailure());
         }
     }
 }
@@ -328,26 +359,24 @@ TEST_F(Formations, EveryLengthOfALinePlacesItsShipsAsTheWholeLineDoesAndNoOthers
     }
 }
 
-/// Whole numbers divided, to the nearest, ties to even.
-int nearest(int dividend, int divisor)
+class Convoys : public Formations, public ::testing::WithParamInterface<bool>
 {
-    const int floor = dividend / divisor;
-    const int twice = 2 * (dividend % divisor);
-    return twice > divisor || (twice == divisor && floor % 2 == 1) ? floor + 1 : floor;
-}
+};
+INSTANTIATE_TEST_SUITE_P(ByDayAndNight, Convoys, ::testing::Bool());
 
-TEST_F(Formations, EveryConvoyOfEverySizeSpacingAndScaleStandsByItsTableWithinHalfAPixel)
+TEST_P(Convoys, OfEverySizeSpacingAndScaleStandByTheirTableWithinHalfAPixel)
 {
+    const bool byDay = GetParam();
     const ProfileStore::Batch batch(store);
     for (int zoomIndex = 1; zoomIndex <= 11; ++zoomIndex) {
         view.zoomIndex = static_cast<std::int16_t>(zoomIndex);
-        const int scale = mapScale(zoomIndex, day);
+        const int scale = mapScale(zoomIndex, byDay);
         view.mapScale = static_cast<float>(scale);
         for (const int spacing : spacings) {
             const int step = nearest(spacing, scale);
             for (int count = 1; count <= 10; ++count) {
                 make("Convoy", count, spacing, 77);
-                place();
+                place("Blue 1", byDay);
                 for (int i = 0; i < count; ++i) {
                     const QStringList cell = convoyOffset(count, i + 1).toString().split(u',');
                     EXPECT_LE(miss(yards(i).x, scale * (100 + step * cell[0].toDouble())), scale / 2.0)

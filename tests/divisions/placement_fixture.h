@@ -46,6 +46,7 @@ protected:
     {
         const ProfileStore::Batch batch(store);
         const QString section = shipSection(division, place);
+        set(section, "NAME", shortName + QStringLiteral(" in full"));
         set(section, "SHORTNAME", shortName);
         set(section, "TYPE", QStringLiteral("DD"));
         set(section, "CLASS", shipClass);

@@ -93,13 +93,33 @@ TEST_F(Placement, ADuncanBeforeALastShipOfAnotherClassStaysWhereItIs)
     EXPECT_EQ(position(1, 0), "1000,2000") << "the other one has the last ship's class";
 }
 
-TEST_F(Placement, AShipWithoutAShortNameMovesEveryPlaceWithoutOne)
+TEST_F(Placement, AShipWithoutAShortNameMovesEveryShipWithoutOneAndMakesNone)
 {
     make("Column", 1);
     set(shipSection(0, 0), "SHORTNAME", QString());
+    addShip(7, 4, QString());
     place();
     EXPECT_EQ(position(0, 0), "1000,2000");
     EXPECT_EQ(position(7, 4), "1000,2000");
+    for (int n = 0; n < 12; ++n) {
+        for (int m = 0; m < 14; ++m) {
+            const bool isShip = (n == 0 && m == 0) || (n == 7 && m == 4);
+            EXPECT_EQ(position(n, m) == "INVALID,INVALID", !isShip) << n << ' ' << m;
+        }
+    }
+}
+
+TEST_F(Placement, AnEmptiedPlaceStaysWhereItIsWhateverItsShortNameSays)
+{
+    make("Column", 1);
+    addShip(2, 3, QStringLiteral("A0"));
+    set(shipSection(2, 3), "NAME", QStringLiteral("NO SHIP"));
+    addShip(2, 4, QStringLiteral("A0"));
+    set(shipSection(2, 4), "NAME", QString());
+    place();
+    EXPECT_EQ(position(0, 0), "1000,2000");
+    EXPECT_EQ(position(2, 3), untouched);
+    EXPECT_EQ(position(2, 4), untouched);
 }
 
 TEST_F(Placement, APositionKeyWithATrailingBlankIsReplaced)
@@ -107,6 +127,7 @@ TEST_F(Placement, APositionKeyWithATrailingBlankIsReplaced)
     make("Column", 1);
     QFile::remove(profile.path());
     describe(0, "Column", 1, 500, 0);
+    profile.write(u"DIVISION0SHIP0", u"NAME", u"Achilles");
     profile.write(u"DIVISION0SHIP0", u"SHORTNAME ", u"A0");
     profile.write(u"DIVISION0SHIP0", u"XPOSITION ", u"7");
     place();
@@ -211,12 +232,27 @@ TEST_F(Placement, AMissingSettingIsThatOfTheSectionBefore)
     EXPECT_EQ(division->count, 2);
 }
 
-TEST_F(Placement, AMissingNameOrSideIsThatOfTheSectionBeforeToo)
+TEST_F(Placement, AMissingNameIsThatOfTheSectionBeforeToo)
 {
     describe(0, "Column", 1, 500, 0, "Blue", 4);
     describe(1, "Column", 1, 500, 0, "Red", 9);
     set(QStringLiteral("DIVISION1"), "DIVISIONNAME", QString());
     EXPECT_EQ(placement.findDivision(cutRepositionKey(u"Red  4"))->section, QStringLiteral("DIVISION1"));
+}
+
+TEST_F(Placement, AMissingSideOrCountIsThatOfTheSectionBeforeToo)
+{
+    describe(0, "Column", 3, 500, 0, "Red", 4);
+    describe(1, "Column", 1, 500, 0, "Blue", 9);
+    for (const char* const missing : {"SIDE", "SHIPCNT"}) {
+        set(QStringLiteral("DIVISION1"), missing, QStringLiteral("INVALID"));
+    }
+    EXPECT_EQ(placement.findDivision(cutRepositionKey(u"Blue 9")), std::nullopt);
+    const auto division = placement.findDivision(cutRepositionKey(u"Red  9"));
+    ASSERT_TRUE(division);
+    EXPECT_EQ(division->section, QStringLiteral("DIVISION1"));
+    EXPECT_EQ(division->count, 3);
+    EXPECT_EQ(division->colour, 12);
 }
 
 TEST_F(Placement, WhatNoSectionSaysIsNought)

@@ -343,6 +343,28 @@ TEST_F(RingMarks, NightTrainingCountsAtNightAlone)
     EXPECT_TRUE(marksOf({nelson}).front() == Mark(circle(100, 200, 240, white)));
 }
 
+TEST_F(RingMarks, OfTwoDuncansOfTwoClassesAtNightFollowEachTheirOwnTraining)
+{
+    only(&MapToggles::visRingsOn);
+    conditions.visibility = QStringLiteral("40 %");
+    conditions.day = false;
+    PlottedShip british = nelson;
+    british.shortName = QStringLiteral("Duncan");
+    british.shipClass = QStringLiteral("D");
+    PlottedShip american = british;
+    american.shipClass = QStringLiteral("Gleaves");
+    american.at = {500, 600};
+    const MarkList marks = marksOf({british, american},
+                                   "[DIVISION0]\r\nDIVISIONNAME=Division 1\r\n"
+                                   "[DIVISION0SHIP0]\r\nSHORTNAME=Duncan\r\nCLASS=D\r\nNIGHTTRAINING=Poor\r\n"
+                                   "[DIVISION3]\r\nDIVISIONNAME=Division 1\r\n"
+                                   "[DIVISION3SHIP1]\r\nSHORTNAME=Duncan\r\nCLASS=Gleaves\r\n"
+                                   "NIGHTTRAINING=Good\r\n");
+    ASSERT_EQ(marks.size(), 12U);
+    EXPECT_TRUE(marks.at(0) == Mark(circle(100, 200, 120, white))) << "20 %";
+    EXPECT_TRUE(marks.at(6) == Mark(circle(500, 600, 300, white))) << "50 %";
+}
+
 TEST_F(RingMarks, NightTrainingHelpsNoRadar)
 {
     only(&MapToggles::radarRingsOn);

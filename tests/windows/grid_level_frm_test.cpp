@@ -6,30 +6,21 @@
 namespace torvane::testing {
 namespace {
 
-class GridDialog : public LevelDialog
+class GridDialog : public LevelDialogOf<GridLevelFrm, &Editor::gridLevelFrm, &MainFrm::chkUnloadGrid>
 {
-protected:
-    LevelFrm& dialog() override { return grid(); }
-    GridLevelFrm& grid() { return editor().gridLevelFrm(); }
-    const QCheckBox* flag() { return editor().mainFrm().chkUnloadGrid; }
-    void openAt(std::int16_t index)
-    {
-        editor().forms().runHandler([this, index] { grid().openAt(index); });
-        settle();
-    }
 };
 
 TEST_F(GridDialog, HasItsTextsInBothLanguages)
 {
     startPastSplash(Language::English);
-    EXPECT_EQ(grid().windowTitle(), QStringLiteral("Grid Size"));
+    EXPECT_EQ(form().windowTitle(), QStringLiteral("Grid Size"));
     EXPECT_EQ(request(), QStringLiteral("Select a size for the grid."));
     EXPECT_EQ(caption("optLevel3"), QStringLiteral("Small"));
     EXPECT_EQ(caption("optLevel2"), QStringLiteral("Medium"));
     EXPECT_EQ(caption("optLevel1"), QStringLiteral("Large"));
     EXPECT_EQ(caption("optOff"), QStringLiteral("Grid Off"));
     startPastSplash(Language::German);
-    EXPECT_EQ(grid().windowTitle(), QStringLiteral("Rastergröße"));
+    EXPECT_EQ(form().windowTitle(), QStringLiteral("Rastergröße"));
     EXPECT_EQ(request(), QStringLiteral("Rastergröße wählen"));
     EXPECT_EQ(caption("optLevel3"), QStringLiteral("Klein"));
     EXPECT_EQ(caption("optLevel2"), QStringLiteral("Mittel"));
@@ -44,11 +35,22 @@ TEST_F(GridDialog, StacksItsOptionsFromSmallToOff)
     EXPECT_EQ(namesDown().join(u' '), QStringLiteral("optLevel3 optLevel2 optLevel1 optOff"));
 }
 
+TEST_F(GridDialog, HasNoButtonsBesidesItsOptions)
+{
+    startPastSplash();
+    expectOptionsAlone(4);
+}
+
+TEST_F(GridDialog, IsLoadedAtItsFirstNeed)
+{
+    expectLoadedAtFirstNeed("GridLevelFrm");
+}
+
 TEST_F(GridDialog, StartsWithTheSmallGrid)
 {
     startPastSplash();
     EXPECT_EQ(namesOn(), QStringList{QStringLiteral("optLevel3")});
-    EXPECT_EQ(grid().gridIndex(), 3);
+    EXPECT_EQ(form().gridIndex(), 3);
     EXPECT_EQ(valueOf(flag()), 0);
 }
 
@@ -58,11 +60,11 @@ TEST_F(GridDialog, EachOptionLeavesItAndMeansItsIndex)
     constexpr std::array<std::pair<const char*, int>, 4> options{
         {{"optOff", 0}, {"optLevel1", 1}, {"optLevel2", 2}, {"optLevel3", 3}}};
     for (const auto& [name, index] : options) {
-        openAt(grid().gridIndex());
+        openAt(form().gridIndex());
         expectShown();
         click(option(name));
-        expectLeft(flag(), 0);
-        EXPECT_EQ(grid().gridIndex(), index) << name;
+        expectLeft(0);
+        EXPECT_EQ(form().gridIndex(), index) << name;
         EXPECT_EQ(namesOn(), QStringList{QLatin1StringView(name)});
     }
 }
@@ -79,13 +81,13 @@ TEST_F(GridDialog, TheCloseBoxAndEscLeaveItWithTheFlagOfTheGridSet)
 {
     startPastSplash();
     openAt(3);
-    closeBox(&grid());
-    expectLeft(flag(), 1);
+    closeBox(&form());
+    expectLeft(1);
     EXPECT_EQ(valueOf(editor().mainFrm().chkUnloadZoom), 0);
     openAt(3);
     EXPECT_EQ(valueOf(flag()), 1) << "the default is on already";
-    press(&grid(), Qt::Key_Escape);
-    expectLeft(flag(), 1);
+    press(&form(), Qt::Key_Escape);
+    expectLeft(1);
 }
 
 TEST_F(GridDialog, AfterTheCloseBoxGridOffIsTurnedOnAnewAndClearsTheFlag)
@@ -94,8 +96,8 @@ TEST_F(GridDialog, AfterTheCloseBoxGridOffIsTurnedOnAnewAndClearsTheFlag)
     openAt(3);
     click(option("optOff"));
     openAt(0);
-    closeBox(&grid());
-    expectLeft(flag(), 1);
+    closeBox(&form());
+    expectLeft(1);
     EXPECT_EQ(namesOn(), QStringList{QStringLiteral("optLevel3")});
     openAt(0);
     expectShown();
@@ -107,8 +109,8 @@ TEST_F(GridDialog, AnIndexWithoutAnOptionIsASubscriptFailure)
 {
     startPastSplash();
     for (const std::int16_t index : std::array<std::int16_t, 2>{-1, 4}) {
-        expectError(RuntimeError::SubscriptOutOfRange, [&] { grid().openAt(index); });
-        EXPECT_FALSE(grid().isVisible());
+        expectError(RuntimeError::SubscriptOutOfRange, [&] { form().openAt(index); });
+        EXPECT_FALSE(form().isVisible());
     }
 }
 

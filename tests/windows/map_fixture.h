@@ -38,6 +38,25 @@ protected:
     MapScrollBar* bar(const char* name) { return control<MapScrollBar>(main(), QLatin1StringView(name)); }
     QString distance() { return control<QLabel>(main(), QStringLiteral("lblDistance"))->text(); }
     QColor pixel(int x, int y) { return map()->image().pixelColor(x, y); }
+    /// How many pixels of the map have a colour.
+    int countOf(QColor colour)
+    {
+        int count = 0;
+        const QImage& picture = map()->image();
+        for (int y = 0; y < picture.height(); ++y) {
+            for (int x = 0; x < picture.width(); ++x) {
+                count += picture.pixelColor(x, y) == colour ? 1 : 0;
+            }
+        }
+        return count;
+    }
+    /// A line on the picture that the next redraw takes away; whether it is there.
+    void drawMarker()
+    {
+        map()->setForeColor(Qt::magenta);
+        map()->line({3, 3}, {9, 3});
+    }
+    bool markerStands() { return pixel(5, 3) == QColor(Qt::magenta); }
 
     void set(const QString& section, const char* key, const QString& value)
     {
@@ -92,6 +111,37 @@ protected:
         set(QStringLiteral("SCENARIOINFO"), "DIVISIONCNT", QString::number(n + 1));
     }
 
+    /// What New and divisions bring about in the Reposition menus.
+    void openRepositionMenus()
+    {
+        main().menu().setEnabled(QStringLiteral("mnuRepoForceA"), true);
+        main().menu().setEnabled(QStringLiteral("mnuRepoForceB"), true);
+        for (const bool blue : {true, false}) {
+            for (int number = 1; number <= divisionsPerSide; ++number) {
+                main().menu().setVisible(QLatin1StringView(repositionRow(blue, number).entry), true);
+            }
+        }
+    }
+    /// A division in section 0 that the next click places.
+    void awaitClick()
+    {
+        addDivision(0, "Blue", 1, 1);
+        openRepositionMenus();
+        ASSERT_TRUE(chooseMenu(main(), QStringLiteral("mnuDiv1")));
+    }
+    /// What the division dialog says of the last one placed.
+    QString lastPlacement()
+    {
+        return control<QLabel>(editor().createDivisionFrm(), QStringLiteral("LblPicMap"))->text();
+    }
+    /// The mission has a target area, which waits for a click.
+    void armTargetArea()
+    {
+        setValue(main().chkBombardment, 1);
+        returnFromDialog();
+        ASSERT_TRUE(chooseMenu(main(), QStringLiteral("mnuTargetBox")));
+    }
+
     /// A dialog that opens and closes: what makes the main window active again.
     void returnFromDialog()
     {
@@ -114,6 +164,18 @@ protected:
     {
         movePointer(at);
         clickWithoutMove(at, button);
+    }
+    /// The same between two pixels, as a denser screen has it.
+    void clickBetweenPixels(QPointF at)
+    {
+        for (const QEvent::Type type :
+             {QEvent::MouseMove, QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+            const Qt::MouseButton button = type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton;
+            QMouseEvent event(type, at, map()->mapToGlobal(at), button,
+                              type == QEvent::MouseButtonPress ? button : Qt::NoButton, Qt::NoModifier);
+            QCoreApplication::sendEvent(map(), &event);
+        }
+        settle();
     }
     void clickWithoutMove(QPoint at, Qt::MouseButton button = Qt::LeftButton)
     {

@@ -1,30 +1,20 @@
-#include "platform/picture_button.h"
 #include "windows/map_fixture.h"
 
 namespace torvane::testing {
 namespace {
 
+constexpr const char* measureTool = "cmdMeasureTool";
+
 class Ruler : public MapFixture
 {
 protected:
-    void useTool() { click(control<PictureButton>(main(), QStringLiteral("cmdMeasureTool"))); }
-    int yellowPixels()
-    {
-        int count = 0;
-        const QImage& picture = map()->image();
-        for (int y = 0; y < picture.height(); ++y) {
-            for (int x = 0; x < picture.width(); ++x) {
-                count += picture.pixelColor(x, y) == QColor(Qt::yellow) ? 1 : 0;
-            }
-        }
-        return count;
-    }
+    int yellowPixels() { return countOf(Qt::yellow); }
 };
 
 TEST_F(Ruler, MeasuresBetweenTwoClicks)
 {
     startPastSplash();
-    useTool();
+    use(measureTool);
     EXPECT_EQ(pointer(), Qt::CrossCursor);
     clickMap({100, 100});
     EXPECT_EQ(pixel(98, 100), QColor(Qt::yellow)) << "the cross of A";
@@ -35,6 +25,9 @@ TEST_F(Ruler, MeasuresBetweenTwoClicks)
     EXPECT_NE(pixel(115, 120), QColor(Qt::yellow)) << "nothing is drawn yet";
     clickMap({200, 100});
     EXPECT_NE(pixel(150, 100), QColor(Qt::yellow)) << "the line waits for the next move";
+    EXPECT_EQ(pixel(198, 100), QColor(Qt::yellow)) << "the cross of B";
+    EXPECT_EQ(pixel(200, 98), QColor(Qt::yellow));
+    EXPECT_EQ(pointer(), Qt::CrossCursor);
     movePointer({201, 101});
     EXPECT_EQ(distance(), QStringLiteral("6,000 yds."));
     EXPECT_EQ(pixel(120, 100), QColor(Qt::yellow));
@@ -43,7 +36,7 @@ TEST_F(Ruler, MeasuresBetweenTwoClicks)
 TEST_F(Ruler, ANewMeasurementClearsTheOldOneAndKeepsItsDistanceUntilTheFirstMove)
 {
     startPastSplash();
-    useTool();
+    use(measureTool);
     clickMap({100, 100});
     clickMap({200, 100});
     movePointer({300, 200});
@@ -58,7 +51,7 @@ TEST_F(Ruler, ANewMeasurementClearsTheOldOneAndKeepsItsDistanceUntilTheFirstMove
 TEST_F(Ruler, ARedrawRemovesTheLineAndLeavesItsDistance)
 {
     startPastSplash();
-    useTool();
+    use(measureTool);
     clickMap({100, 100});
     clickMap({200, 100});
     movePointer({300, 200});
@@ -70,11 +63,11 @@ TEST_F(Ruler, ARedrawRemovesTheLineAndLeavesItsDistance)
 TEST_F(Ruler, SwitchedOffClearsItsLineAndItsDistance)
 {
     startPastSplash();
-    useTool();
+    use(measureTool);
     clickMap({100, 100});
     clickMap({200, 100});
     movePointer({300, 200});
-    useTool();
+    use(measureTool);
     EXPECT_EQ(distance(), QStringLiteral("0 yds."));
     EXPECT_EQ(yellowPixels(), 0);
     EXPECT_EQ(pointer(), Qt::ArrowCursor);
@@ -85,7 +78,7 @@ TEST_F(Ruler, SwitchedOffClearsItsLineAndItsDistance)
 TEST_F(Ruler, ARightClickNeitherMeasuresNorStopsTheTool)
 {
     startPastSplash();
-    useTool();
+    use(measureTool);
     clickMap({100, 100}, Qt::RightButton);
     EXPECT_EQ(yellowPixels(), 0);
     EXPECT_EQ(pointer(), Qt::ArrowCursor);
@@ -97,12 +90,10 @@ TEST_F(Ruler, AClickPlacesTheDivisionThenTheTargetAreaAndSetsThePoint)
 {
     startPastSplash();
     addDivision(0, "Blue", 1, 1);
-    setValue(main().chkBombardment, 1);
-    returnFromDialog();
-    main().menu().setEnabled(QStringLiteral("mnuRepoForceA"), true);
+    openRepositionMenus();
     ASSERT_TRUE(chooseMenu(main(), QStringLiteral("mnuDiv1")));
-    ASSERT_TRUE(chooseMenu(main(), QStringLiteral("mnuTargetBox")));
-    useTool();
+    armTargetArea();
+    use(measureTool);
     clickMap({412, 258});
     EXPECT_EQ(position(0, 0), QStringLiteral("6000,3000"));
     EXPECT_EQ(valueOf(main().ChkPlotDiv), 0);
@@ -111,6 +102,26 @@ TEST_F(Ruler, AClickPlacesTheDivisionThenTheTargetAreaAndSetsThePoint)
     EXPECT_EQ(main().targetArea().x, 6000);
     EXPECT_EQ(main().targetArea().z, 3000);
     EXPECT_GT(yellowPixels(), 0) << "drawn last, over the others";
+}
+
+TEST_F(Ruler, TheCrossOfThePointerSurvivesItsMoves)
+{
+    startPastSplash();
+    use(measureTool);
+    for (const QPoint at : {QPoint(100, 100), QPoint(130, 140), QPoint(300, 20)}) {
+        movePointer(at);
+        EXPECT_EQ(pointer(), Qt::CrossCursor);
+    }
+}
+
+TEST_F(Ruler, SwitchingItOnDrawsNothingAnewAndOffDoes)
+{
+    startPastSplash();
+    drawMarker();
+    use(measureTool);
+    EXPECT_TRUE(markerStands());
+    use(measureTool);
+    EXPECT_FALSE(markerStands());
 }
 
 } // namespace

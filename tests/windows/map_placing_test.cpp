@@ -1,5 +1,7 @@
 #include "windows/map_fixture.h"
 
+#include <optional>
+
 namespace torvane::testing {
 namespace {
 
@@ -14,23 +16,6 @@ protected:
         setValue(main().chkCreateReturn, 1);
         returnFromDialog();
     }
-    void armTargetArea()
-    {
-        setValue(main().chkBombardment, 1);
-        returnFromDialog();
-        ASSERT_TRUE(chooseMenu(main(), QStringLiteral("mnuTargetBox")));
-    }
-    // What New and a division bring about in the menus.
-    void openRepositionMenus()
-    {
-        main().menu().setEnabled(QStringLiteral("mnuRepoForceA"), true);
-        main().menu().setEnabled(QStringLiteral("mnuRepoForceB"), true);
-        for (const bool blue : {true, false}) {
-            for (int number = 1; number <= divisionsPerSide; ++number) {
-                main().menu().setVisible(QLatin1StringView(repositionRow(blue, number).entry), true);
-            }
-        }
-    }
 };
 
 TEST_F(Placing, AClickPlacesTheDivisionThatWaits)
@@ -44,9 +29,7 @@ TEST_F(Placing, AClickPlacesTheDivisionThatWaits)
     EXPECT_EQ(position(0, 1), QStringLiteral("6000,-5400"));
     EXPECT_EQ(position(0, 2), QStringLiteral("6000,-4800"));
     EXPECT_EQ(valueOf(main().ChkPlotDiv), 0);
-    EXPECT_EQ(control<QLabel>(editor().createDivisionFrm(), QStringLiteral("LblPicMap"))->text(),
-              QStringLiteral("24720 X 6480"))
-        << "from the top left corner, as the read-out";
+    EXPECT_EQ(lastPlacement(), QStringLiteral("24720 X 6480")) << "from the top left corner, as the read-out";
     EXPECT_EQ(pixel(416, 90), QColor(Qt::blue)) << "drawn at its place";
     EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
 }
@@ -83,12 +66,14 @@ TEST_F(Placing, AnEditedDivisionIsLaidOutAtItsOldPlaceWithoutAClick)
     addDivision(0, "Red", 2, 2, "Line of Bearing", 90);
     main().txtXPosition->setText(QStringLiteral("1200"));
     main().txtYPosition->setText(QStringLiteral("-600"));
+    editor().createDivisionFrm().showPlacement(QStringLiteral("as it was"));
     setValue(main().chkReturnFromEdit, 1);
     comeBackFromCreating("Force B (Red)", "Verband 2");
     EXPECT_EQ(valueOf(main().ChkPlotDiv), 0);
     EXPECT_EQ(valueOf(main().chkReturnFromEdit), 0);
     EXPECT_EQ(position(0, 0), QStringLiteral("1200,-600"));
     EXPECT_EQ(position(0, 1), QStringLiteral("1200,0")) << "to the right of a course east is south";
+    EXPECT_EQ(lastPlacement(), QStringLiteral("as it was")) << "a click's alone";
 }
 
 TEST_F(Placing, SeparationRingsShowUntilTheNextRedraw)
@@ -156,26 +141,109 @@ TEST_F(Placing, AClickWithoutAnyMoveUsesTheAnchorThatTheRedrawLeft)
 TEST_F(Placing, ActivationDuringAPlacementDiscardsTheScrolling)
 {
     startPastSplash();
-    addDivision(0, "Blue", 1, 1);
-    openRepositionMenus();
-    ASSERT_TRUE(chooseMenu(main(), QStringLiteral("mnuDiv1")));
+    awaitClick();
     press(bar("HScroll1"), Qt::Key_Right);
     returnFromDialog();
     EXPECT_EQ(state().view.mapOriginX, 312);
     EXPECT_EQ(valueOf(main().ChkPlotDiv), 1);
 }
 
-TEST_F(Placing, ADivisionOfMoreThanTenIsASubscriptFailureInABox)
+TEST_F(Placing, ADivisionOfMoreThanTenIsASubscriptFailureInABoxAndGoesOnWaiting)
 {
     startPastSplash();
-    addDivision(0, "Blue", 1, 1);
-    openRepositionMenus();
-    ASSERT_TRUE(chooseMenu(main(), QStringLiteral("mnuDiv1")));
+    awaitClick();
     set(QStringLiteral("DIVISION0"), "SHIPCNT", QStringLiteral("99"));
     clickMap({400, 300});
     EXPECT_EQ(boxes().size(), 1);
     EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr) << "no hourglass stays";
     EXPECT_EQ(position(0, 0), QStringLiteral("0.000000,0.000000"));
+    EXPECT_EQ(valueOf(main().ChkPlotDiv), 1);
+    set(QStringLiteral("DIVISION0"), "SHIPCNT", QStringLiteral("1"));
+    clickMap({412, 108});
+    EXPECT_EQ(position(0, 0), QStringLiteral("6000,-6000"));
+    EXPECT_EQ(valueOf(main().ChkPlotDiv), 0);
+}
+
+TEST_F(Placing, DrawsTheGridBeforeItPlacesOnWhatThePictureHolds)
+{
+    startPastSplash();
+    awaitClick();
+    set(QStringLiteral("DIVISION0"), "SHIPCNT", QStringLiteral("99")); // no redraw follows
+    ASSERT_EQ(pixel(42, 10), QColor(128, 128, 128)) << "a grid line";
+    movePointer({400, 300});
+    map()->setForeColor(Qt::magenta);
+    map()->line({5, 10}, {60, 10});
+    clickWithoutMove({400, 300});
+    EXPECT_EQ(pixel(20, 10), QColor(Qt::magenta)) << "nothing was cleared";
+    EXPECT_EQ(pixel(42, 10), QColor(128, 128, 128));
+}
+
+TEST_F(Placing, TheHourglassShowsDuringTheWork)
+{
+    startPastSplash();
+    awaitClick();
+    // What is broken elsewhere is told by the redraw of the placement.
+    addDivision(1, "Red", 1, 1);
+    set(QStringLiteral("DIVISION1"), "FORMATIONHEADING", QStringLiteral("99999"));
+    std::optional<Qt::CursorShape> shown;
+    script.messageBoxes.onShow = [&shown] {
+        if (const QCursor* cursor = QGuiApplication::overrideCursor()) {
+            shown = cursor->shape();
+        }
+    };
+    clickMap({412, 108});
+    ASSERT_EQ(boxes().size(), 1);
+    EXPECT_EQ(shown, Qt::WaitCursor);
+    EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
+}
+
+TEST_F(Placing, ALeftClickLeavesTheDivisionDialogsFlag)
+{
+    startPastSplash();
+    awaitClick();
+    clickMap({412, 108});
+    EXPECT_EQ(valueOf(main().ChkPlotDiv), 0);
+    EXPECT_EQ(valueOf(editor().createDivisionFrm().chkReposition), 1);
+}
+
+TEST_F(Placing, TheMiddleButtonPlacesToo)
+{
+    startPastSplash();
+    awaitClick();
+    clickMap({412, 108}, Qt::MiddleButton);
+    EXPECT_EQ(position(0, 0), QStringLiteral("6000,-6000"));
+    EXPECT_EQ(valueOf(main().ChkPlotDiv), 0);
+}
+
+TEST_F(Placing, OtherToolsStayUsableMeanwhile)
+{
+    startPastSplash();
+    awaitClick();
+    use("cmdNameTog");
+    EXPECT_EQ(state().toggles.namesMode, 1);
+    press(map(), Qt::Key_B);
+    EXPECT_EQ(state().toggles.ringFilterKey, QStringLiteral("B"));
+    press(bar("HScroll1"), Qt::Key_Right);
+    EXPECT_EQ(state().view.mapOriginX, 302);
+    use("cmdMeasureTool");
+    use("cmdMeasureTool");
+    EXPECT_EQ(valueOf(main().ChkPlotDiv), 1);
+    clickMap({402, 108});
+    EXPECT_EQ(position(0, 0), QStringLiteral("6000,-6000"));
+    EXPECT_EQ(valueOf(main().ChkPlotDiv), 0);
+}
+
+TEST_F(Placing, TheHiddenAnchorFollowsThePointer)
+{
+    startPastSplash();
+    const auto shown = [this](QPoint at) {
+        movePointer(at);
+        return control<PictureBox>(main(), QStringLiteral("PicCoords"))->image().copy();
+    };
+    const QImage here = shown({100, 100});
+    EXPECT_NE(shown({120, 100}), here);
+    EXPECT_NE(shown({100, 120}), here);
+    EXPECT_EQ(shown({100, 100}), here);
 }
 
 TEST_F(Placing, TheTargetAreaGoesWhereTheNextClickIs)
@@ -193,6 +261,29 @@ TEST_F(Placing, TheTargetAreaGoesWhereTheNextClickIs)
     EXPECT_EQ(pixel(412 + 84, 258), QColor(Qt::red));
     clickMap({100, 100});
     EXPECT_EQ(main().targetArea().x, 6000) << "it stays";
+}
+
+TEST_F(Placing, AnArmedTargetAreaKeepsItsPointerOverItsMoves)
+{
+    startPastSplash();
+    armTargetArea();
+    movePointer({100, 100});
+    movePointer({120, 90});
+    EXPECT_EQ(pointer(), Qt::SizeAllCursor);
+}
+
+TEST_F(Placing, TheTargetAreaGoesToThePixelBelowAndBehindADivisionToTheNearestOne)
+{
+    startPastSplash();
+    armTargetArea();
+    clickBetweenPixels({412.9, 258.9});
+    EXPECT_EQ(main().targetArea().x, 6000);
+    EXPECT_EQ(main().targetArea().z, 3000);
+    addDivision(0, "Blue", 1, 1);
+    armTargetArea();
+    clickBetweenPixels({412.9, 258.9});
+    EXPECT_EQ(main().targetArea().x, 6060) << "each ship takes the anchor anew from the read-outs";
+    EXPECT_EQ(main().targetArea().z, 3060);
 }
 
 TEST_F(Placing, AMissionWithoutATargetAreaClearsItsPlaceAndRemembersThatItWasPlaced)

@@ -1,8 +1,10 @@
 #include "map/view_tools.h"
 
 #include "map_fixture.h"
-#include "overview/enviro_frm.h"
+#include "platform/bilingual.h"
 #include "platform/picture_button.h"
+
+#include <QApplication>
 
 namespace torvane::testing {
 namespace {
@@ -18,42 +20,9 @@ protected:
         QTest::mouseMove(&main(), target->mapTo(&main(), at));
         settle();
     }
-    int countOf(QColor colour)
-    {
-        int count = 0;
-        const QImage image = map()->image();
-        for (int y = 0; y < image.height(); ++y) {
-            for (int x = 0; x < image.width(); ++x) {
-                count += image.pixelColor(x, y) == colour ? 1 : 0;
-            }
-        }
-        return count;
-    }
 
-    /// One ship in the middle of the map, of 480 yards a pixel by day.
-    void addShip(const char* type, const char* radar = "EXCELLENT")
-    {
-        addDivision(0, "Blue", 1, 1);
-        set(shipSection(0, 0), "TYPE", QString::fromLatin1(type));
-        set(shipSection(0, 0), "RADARTYPE", QString::fromLatin1(radar));
-    }
-    void setConditions(const char* visibility, const char* radar, const char* seaState, const char* rain)
-    {
-        EnvironmentValues values = editor().enviroFrm().values();
-        values.visibility = QLatin1StringView(visibility);
-        values.radar = QLatin1StringView(radar);
-        values.seaState = QLatin1StringView(seaState);
-        values.rain = QLatin1StringView(rain);
-        editor().enviroFrm().show(values);
-    }
     const QColor sea{1, 176, 235};
     const QColor white{255, 255, 255};
-    const QColor green{0, 255, 0};
-    const QColor yellow{255, 255, 0};
-    const QColor blue{0, 0, 255};
-    const QColor brown{128, 64, 0};
-    const QColor rust{192, 64, 0};
-    const QColor orange{255, 128, 0};
 };
 
 TEST_F(Tools, StandInTheirPlaces)
@@ -117,95 +86,6 @@ TEST_F(Tools, TheRulerStandsPressedWhileItIsOn)
     use("cmdMeasureTool");
     EXPECT_FALSE(tool("cmdMeasureTool")->isChecked());
     EXPECT_EQ(pointer(), Qt::ArrowCursor);
-}
-
-TEST_F(Tools, EachRingToolDrawsItsFamilyAndTakesItAway)
-{
-    startPastSplash();
-    addShip("CA");
-    chooseZoom("optZoomLevel9");
-    // 25920, 30650 and 34425 yards at 480 a pixel.
-    for (const auto& [name, colour, radius] :
-         {std::tuple("cmdVisibCircles", yellow, 54), std::tuple("cmdGunCircles", blue, 63),
-          std::tuple("cmdRadarCircles", orange, 71)}) {
-        use(name);
-        EXPECT_TRUE(tool(name)->isChecked()) << name;
-        EXPECT_EQ(pixel(312 + radius, 208), colour) << name;
-        EXPECT_EQ(pixel(312, 208 - radius), colour) << name;
-        use(name);
-        EXPECT_FALSE(tool(name)->isChecked()) << name;
-        EXPECT_NE(pixel(312 + radius, 208), colour) << name;
-    }
-}
-
-TEST_F(Tools, TheRingsOfAllFamiliesStandInTheirColours)
-{
-    startPastSplash();
-    addShip("CA");
-    chooseZoom("optZoomLevel9");
-    use("cmdVisibCircles");
-    use("cmdGunCircles");
-    use("cmdRadarCircles");
-    for (const auto& [radius, colour] :
-         {std::pair(67, white), std::pair(60, green), std::pair(54, yellow), std::pair(63, blue),
-          std::pair(84, brown), std::pair(75, rust), std::pair(71, orange)}) {
-        EXPECT_EQ(pixel(312 + radius, 208), colour) << radius;
-    }
-    press(map(), Qt::Key_D);
-    EXPECT_EQ(pixel(312 + 54, 208), yellow);
-    EXPECT_EQ(pixel(312 + 71, 208), orange);
-    EXPECT_EQ(pixel(312 + 63, 208), blue) << "gun rings stay";
-    EXPECT_EQ(countOf(green) + countOf(brown) + countOf(rust), 0);
-    press(map(), Qt::Key_F);
-    EXPECT_EQ(pixel(312 + 60, 208), green);
-}
-
-TEST_F(Tools, RingsFollowTheEnvironmentDialogAsItStands)
-{
-    startPastSplash();
-    addShip("CA");
-    chooseZoom("optZoomLevel9");
-    use("cmdVisibCircles");
-    use("cmdRadarCircles");
-    setConditions("50 %", "50 %", "1", "Off");
-    main().redrawMap();
-    EXPECT_EQ(pixel(312 + 27, 208), yellow);
-    EXPECT_EQ(pixel(312 + 35, 208), orange);
-    setConditions("50 %", "50 %", "8", "Off");
-    main().redrawMap();
-    EXPECT_EQ(pixel(312 + 35, 208), sea);
-}
-
-TEST_F(Tools, AtNightRingsAreTwiceAsLargeAndTrainingCounts)
-{
-    startPastSplash();
-    addShip("CA");
-    set(shipSection(0, 0), "NIGHTTRAINING", QStringLiteral("poor"));
-    chooseZoom("optZoomLevel9");
-    use("cmdVisibCircles");
-    setConditions("40 %", "100 %", "1", "Off");
-    setValue(main().chkDayNight, 0);
-    returnFromDialog();
-    // A fifth of 25920 yards at 240 a pixel.
-    EXPECT_EQ(pixel(312 + 21, 208), yellow);
-    setValue(main().chkDayNight, 1);
-    returnFromDialog();
-    EXPECT_EQ(pixel(312 + 21, 208), yellow) << "two fifths at 480 a pixel";
-}
-
-TEST_F(Tools, RingsOfAnUnknownTypeAreToldOnceAndTheShipStays)
-{
-    startPastSplash();
-    addShip("CV");
-    use("cmdVisibCircles");
-    ASSERT_EQ(boxes().size(), 1);
-    EXPECT_THAT(boxes().first().text.toStdString(), ::testing::HasSubstr("CV"));
-    use("cmdGunCircles");
-    EXPECT_EQ(boxes().size(), 1);
-    EXPECT_EQ(countOf(yellow), 0);
-    EXPECT_TRUE(main().isVisible());
-    use("cmdVisibCircles");
-    EXPECT_EQ(boxes().size(), 1);
 }
 
 TEST_F(Tools, ALevelOfZoomTakesEffectWhenItsDialogHasHidden)
@@ -285,14 +165,49 @@ TEST_F(Tools, TheCornersToolCentresTheView)
     EXPECT_EQ(state().view.lastVScrollValue, 16383);
 }
 
-TEST_F(Tools, NewLeavesTheTogglesAsTheyAre)
+TEST_F(Tools, TheDialogsToolsAndTheCornersDrawTheMapAnew)
 {
     startPastSplash();
-    use("cmdGunCircles");
-    use("cmdNameTog");
-    ASSERT_TRUE(chooseMenu(main(), QStringLiteral("mnuNew")));
-    EXPECT_EQ(state().toggles.gunRingsOn, 1);
-    EXPECT_EQ(state().toggles.namesMode, 1);
+    for (const auto& [name, dialog] :
+         {std::pair<const char*, Form*>("cmdZoomLevel", &editor().zoomLevelFrm()),
+          {"cmdGridLevel", &editor().gridLevelFrm()},
+          {"Image1", nullptr}}) {
+        drawMarker();
+        use(name);
+        EXPECT_FALSE(markerStands()) << name;
+        if (dialog != nullptr) {
+            EXPECT_TRUE(dialog->isVisible()) << "before an activation";
+            closeBox(dialog);
+        }
+    }
+}
+
+TEST_F(Tools, NewAndLoadLeaveTogglesAndTheGunRangeAsTheyAre)
+{
+    putWorkFile(QStringLiteral("some.scn"), "[SCENARIODATA]\r\nTITLE=Some\r\n");
+    for (const char* command : {"mnuNew", "mnuLoad"}) {
+        startPastSplash();
+        addDivision(0, "Blue", 1, 1);
+        for (const char* name :
+             {"cmdGunCircles", "cmdVisibCircles", "cmdRadarCircles", "cmdNameTog", "cmdMapScale"}) {
+            use(name);
+        }
+        press(map(), Qt::Key_C);
+        const MapToggles toggles{.namesMode = 1,
+                                 .scaleLabelsOn = 0,
+                                 .gunRingsOn = 1,
+                                 .visRingsOn = 1,
+                                 .radarRingsOn = 1,
+                                 .ringFilterOn = -1,
+                                 .ringFilterKey = QStringLiteral("C")};
+        ASSERT_EQ(state().toggles, toggles);
+        ASSERT_EQ(state().gunRangeValue, 510) << "30650 yards at 60 a pixel";
+        script.fileBoxes.answers = {workFile(QStringLiteral("some.scn"))};
+        ASSERT_TRUE(chooseMenu(main(), QLatin1StringView(command)));
+        ASSERT_EQ(editor().workingProfile().divisionCount(), 0) << command;
+        EXPECT_EQ(state().toggles, toggles) << command;
+        EXPECT_EQ(state().gunRangeValue, 510) << command;
+    }
 }
 
 TEST_F(Tools, TagsShowUnderThePointerUntilTheHelpTagsAreOff)
@@ -301,6 +216,7 @@ TEST_F(Tools, TagsShowUnderThePointerUntilTheHelpTagsAreOff)
     moveTo(tool("cmdNameTog"), {10, 10});
     EXPECT_TRUE(tag("hotNames")->isVisible());
     ASSERT_TRUE(chooseMenu(main(), QStringLiteral("mnuHotText")));
+    EXPECT_TRUE(tag("hotNames")->isVisible()) << "stays until a move hides it";
     moveTo(tool("cmdMapScale"), {10, 10});
     EXPECT_FALSE(tag("hotNames")->isVisible()) << "hidden by the next tool";
     EXPECT_FALSE(tag("hotScale")->isVisible());
@@ -347,6 +263,68 @@ TEST_F(Tools, TagsFitTheirTextsInTheWindow)
             EXPECT_EQ(label->text(), each.tagText(language).string());
             EXPECT_GE(label->width(), label->fontMetrics().horizontalAdvance(label->text()));
             EXPECT_TRUE(label->parentWidget()->rect().contains(label->geometry())) << each.tag;
+        }
+    }
+}
+
+TEST_F(Tools, TheDistanceStandsOnLightGreyOnADarkDesktopToo)
+{
+    const QPalette before = QApplication::palette();
+    QPalette dark(QColor(40, 42, 50));
+    QApplication::setPalette(dark);
+    startPastSplash();
+    const QImage label = control<QLabel>(main(), QStringLiteral("lblDistance"))->grab().toImage();
+    QApplication::setPalette(before);
+    const QColor corner = label.pixelColor(1, 1);
+    EXPECT_EQ(corner.red(), corner.green());
+    EXPECT_EQ(corner.green(), corner.blue());
+    EXPECT_GT(corner.red(), 180);
+    EXPECT_LT(corner.red(), 250) << "grey, not white";
+    bool inked = false;
+    for (int x = 0; x < label.width(); ++x) {
+        inked = inked || label.pixelColor(x, label.height() / 2).red() < 100;
+    }
+    EXPECT_TRUE(inked) << "dark text on it";
+}
+
+TEST_F(Tools, ReadOutsAndBarsHaveTipsInBothLanguages)
+{
+    const std::array<std::pair<const char*, Bilingual>, 10> expected{{
+        {"Label1", {"Measured with the line tool", "Mit dem Linien-Werkzeug gemessen"}},
+        {"lblDistance",
+         {"Yards from A to B as the line tool last measured them",
+          "Yards von A nach B, wie das Linien-Werkzeug sie zuletzt gemessen hat"}},
+        {"Picture2",
+         {"How much sea the map shows: width by height in yards",
+          "So viel See zeigt die Karte: Breite mal Höhe in Yards"}},
+        {"Picture4",
+         {"How much sea the map shows: width by height in yards",
+          "So viel See zeigt die Karte: Breite mal Höhe in Yards"}},
+        {"Picture1",
+         {"How much sea the map shows: width by height in yards",
+          "So viel See zeigt die Karte: Breite mal Höhe in Yards"}},
+        {"picMapScale1",
+         {"Where the pointer is, in yards from the map's upper left corner",
+          "Wo der Zeiger steht, in Yards von der linken oberen Ecke der Karte"}},
+        {"picMapScaleX",
+         {"Where the pointer is, in yards from the map's upper left corner",
+          "Wo der Zeiger steht, in Yards von der linken oberen Ecke der Karte"}},
+        {"picMapScale2",
+         {"Where the pointer is, in yards from the map's upper left corner",
+          "Wo der Zeiger steht, in Yards von der linken oberen Ecke der Karte"}},
+        {"HScroll1",
+         {"Moves the map to the left or right; its slider does not show where you are",
+          "Verschiebt die Karte nach links oder rechts; der Schieber zeigt nicht an, wo Sie sind"}},
+        {"VScroll1",
+         {"Moves the map up or down; its slider does not show where you are",
+          "Verschiebt die Karte nach oben oder unten; der Schieber zeigt nicht an, wo Sie sind"}},
+    }};
+    for (const Language language : {Language::English, Language::German}) {
+        startPastSplash(language);
+        for (const auto& [name, tip] : expected) {
+            const auto* told = control<QWidget>(main(), QLatin1StringView(name));
+            EXPECT_EQ(told->toolTip(), tip.in(language)) << name;
+            EXPECT_EQ(told->accessibleDescription(), tip.in(language)) << name;
         }
     }
 }

@@ -6,28 +6,19 @@
 namespace torvane::testing {
 namespace {
 
-class ZoomDialog : public LevelDialog
+class ZoomDialog : public LevelDialogOf<ZoomLevelFrm, &Editor::zoomLevelFrm, &MainFrm::chkUnloadZoom>
 {
-protected:
-    LevelFrm& dialog() override { return zoom(); }
-    ZoomLevelFrm& zoom() { return editor().zoomLevelFrm(); }
-    const QCheckBox* flag() { return editor().mainFrm().chkUnloadZoom; }
-    void openAt(std::int16_t index)
-    {
-        editor().forms().runHandler([this, index] { zoom().openAt(index); });
-        settle();
-    }
 };
 
 TEST_F(ZoomDialog, HasItsTextsInBothLanguages)
 {
     startPastSplash(Language::English);
-    EXPECT_EQ(zoom().windowTitle(), QStringLiteral("Zoom"));
+    EXPECT_EQ(form().windowTitle(), QStringLiteral("Zoom"));
     EXPECT_EQ(request(), QStringLiteral("Please select a zoom level."));
     EXPECT_EQ(caption("optZoomLevel0"), QStringLiteral("Level 0"));
     EXPECT_EQ(caption("optZoomLevel4"), QStringLiteral("Level 5"));
     startPastSplash(Language::German);
-    EXPECT_EQ(zoom().windowTitle(), QStringLiteral("Zoom"));
+    EXPECT_EQ(form().windowTitle(), QStringLiteral("Zoom"));
     EXPECT_EQ(request(), QStringLiteral("Bitte wählen Sie eine Zoom-Ebene."));
     EXPECT_EQ(caption("optZoomLevel0"), QStringLiteral("Ebene 0"));
     EXPECT_EQ(caption("optZoomLevel10"), QStringLiteral("Ebene 10"));
@@ -43,17 +34,28 @@ TEST_F(ZoomDialog, StacksItsElevenOptionsInTheOrderOfTheirCaptions)
                              "optZoomLevel10"));
     int level = 0;
     for (const QString& name : namesDown()) {
-        EXPECT_EQ(control<OptionButton>(zoom(), name)->text(), QStringLiteral("Level %1").arg(level++));
+        EXPECT_EQ(control<OptionButton>(form(), name)->text(), QStringLiteral("Level %1").arg(level++));
     }
+}
+
+TEST_F(ZoomDialog, HasNoButtonsBesidesItsOptions)
+{
+    startPastSplash();
+    expectOptionsAlone(11);
+}
+
+TEST_F(ZoomDialog, IsLoadedAtItsFirstNeed)
+{
+    expectLoadedAtFirstNeed("ZoomLevelFrm");
 }
 
 TEST_F(ZoomDialog, StartsWithLevelFive)
 {
     startPastSplash();
     EXPECT_EQ(namesOn(), QStringList{QStringLiteral("optZoomLevel4")});
-    EXPECT_EQ(zoom().zoomIndex(), 4);
+    EXPECT_EQ(form().zoomIndex(), 4);
     EXPECT_EQ(valueOf(flag()), 0);
-    EXPECT_FALSE(zoom().isVisible());
+    EXPECT_FALSE(form().isVisible());
 }
 
 TEST_F(ZoomDialog, OpensWithTheOptionOfTheIndexOverADisabledMainWindow)
@@ -63,7 +65,7 @@ TEST_F(ZoomDialog, OpensWithTheOptionOfTheIndexOverADisabledMainWindow)
     expectShown();
     EXPECT_EQ(namesOn(), QStringList{QStringLiteral("optZoomLevel4")});
     EXPECT_TRUE(option("optZoomLevel4")->hasFocus());
-    EXPECT_EQ(zoom().focusWidget(), option("optZoomLevel4"));
+    EXPECT_EQ(form().focusWidget(), option("optZoomLevel4"));
 }
 
 TEST_F(ZoomDialog, EachOptionLeavesItAndMeansItsIndex)
@@ -81,11 +83,11 @@ TEST_F(ZoomDialog, EachOptionLeavesItAndMeansItsIndex)
                                                                    {"optZoomLevel9", 9},
                                                                    {"optZoomLevel10", 10}}};
     for (const auto& [name, index] : options) {
-        openAt(zoom().zoomIndex());
+        openAt(form().zoomIndex());
         expectShown();
         click(option(name));
-        expectLeft(flag(), 0);
-        EXPECT_EQ(zoom().zoomIndex(), index) << name;
+        expectLeft(0);
+        EXPECT_EQ(form().zoomIndex(), index) << name;
         EXPECT_EQ(namesOn(), QStringList{QLatin1StringView(name)});
     }
 }
@@ -105,11 +107,11 @@ TEST_F(ZoomDialog, TheCloseBoxAndEscLeaveItWithTheFlagSet)
 {
     startPastSplash();
     openAt(4);
-    closeBox(&zoom());
-    expectLeft(flag(), 1);
+    closeBox(&form());
+    expectLeft(1);
     openAt(4);
-    press(&zoom(), Qt::Key_Escape);
-    expectLeft(flag(), 1);
+    press(&form(), Qt::Key_Escape);
+    expectLeft(1);
 }
 
 TEST_F(ZoomDialog, TheCloseBoxForgetsTheOption)
@@ -118,8 +120,8 @@ TEST_F(ZoomDialog, TheCloseBoxForgetsTheOption)
     openAt(4);
     click(option("optZoomLevel9"));
     openAt(9);
-    closeBox(&zoom());
-    expectLeft(flag(), 1);
+    closeBox(&form());
+    expectLeft(1);
     EXPECT_EQ(namesOn(), QStringList{QStringLiteral("optZoomLevel4")}) << "as it is loaded";
 }
 
@@ -129,7 +131,7 @@ TEST_F(ZoomDialog, AfterTheCloseBoxAnOptionThatIsNotTheDefaultClearsTheFlagBefor
     openAt(4);
     click(option("optZoomLevel9"));
     openAt(9);
-    closeBox(&zoom());
+    closeBox(&form());
     openAt(9);
     expectShown();
     EXPECT_EQ(valueOf(flag()), 0);
@@ -140,30 +142,30 @@ TEST_F(ZoomDialog, AfterTheCloseBoxTheDefaultKeepsTheFlagUntilAnOptionIsPicked)
 {
     startPastSplash();
     openAt(4);
-    closeBox(&zoom());
+    closeBox(&form());
     openAt(4);
     expectShown();
     EXPECT_EQ(valueOf(flag()), 1);
     click(option("optZoomLevel0"));
-    expectLeft(flag(), 0);
+    expectLeft(0);
 }
 
 TEST_F(ZoomDialog, TheKeyboardGoesFromOptionToOptionAndChoosesBySpaceOrEnter)
 {
     startPastSplash();
     openAt(4);
-    press(zoom().focusWidget(), Qt::Key_Down);
-    press(zoom().focusWidget(), Qt::Key_Tab);
+    press(form().focusWidget(), Qt::Key_Down);
+    press(form().focusWidget(), Qt::Key_Tab);
     expectShown();
-    EXPECT_EQ(zoom().focusWidget(), option("optZoomLevel2"));
-    press(zoom().focusWidget(), Qt::Key_Space);
-    expectLeft(flag(), 0);
-    EXPECT_EQ(zoom().zoomIndex(), 2);
+    EXPECT_EQ(form().focusWidget(), option("optZoomLevel2"));
+    press(form().focusWidget(), Qt::Key_Space);
+    expectLeft(0);
+    EXPECT_EQ(form().zoomIndex(), 2);
     openAt(2);
-    press(zoom().focusWidget(), Qt::Key_Up);
-    press(zoom().focusWidget(), Qt::Key_Return);
-    expectLeft(flag(), 0);
-    EXPECT_EQ(zoom().zoomIndex(), 3);
+    press(form().focusWidget(), Qt::Key_Up);
+    press(form().focusWidget(), Qt::Key_Return);
+    expectLeft(0);
+    EXPECT_EQ(form().zoomIndex(), 3);
 }
 
 TEST_F(ZoomDialog, WhileItIsShownTheMainWindowTakesNoInput)
@@ -181,8 +183,8 @@ TEST_F(ZoomDialog, AnIndexWithoutAnOptionIsASubscriptFailure)
 {
     startPastSplash();
     for (const std::int16_t index : std::array<std::int16_t, 3>{0, 12, -1}) {
-        expectError(RuntimeError::SubscriptOutOfRange, [&] { zoom().openAt(index); });
-        EXPECT_FALSE(zoom().isVisible());
+        expectError(RuntimeError::SubscriptOutOfRange, [&] { form().openAt(index); });
+        EXPECT_FALSE(form().isVisible());
         EXPECT_TRUE(editor().mainFrm().isInputEnabled());
     }
 }
