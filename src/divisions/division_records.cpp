@@ -288,7 +288,7 @@ void DivisionRecords::writeDivData(const DivisionVars& vars) const
     const Side side = sideOfWord(vars.side);
     const QByteArray lines =
         quotedLines({vars.name, vars.side, vars.formation, vars.heading, vars.spacing, vars.speed});
-    writeWholeFile(m_files.divDataFile(side, toInt16(numberValue(vars.number))), lines + "\r\n\r\n");
+    writeScratchFile(m_files.divDataFile(side, toInt16(numberValue(vars.number))), lines + "\r\n\r\n");
 }
 
 DivisionShips DivisionRecords::loadDivisionShips(const QString& name, const QString& sideLabel)

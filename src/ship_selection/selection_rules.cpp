@@ -126,8 +126,13 @@ std::optional<SelectionMessage> ShipSelection::pick(int row)
 
 void ShipSelection::select(int index)
 {
-    m_selectedIndex = index;
-    m_selectedShip = index >= 0 && index < divShipCount() ? nameOf(m_entries[index]) : QString();
+    m_selectedIndex = index >= 0 && index < divShipCount() ? index : -1;
+}
+
+// Read from the line itself: index and name always belong together.
+QString ShipSelection::selectedShip() const
+{
+    return nameOf(m_entries.value(m_selectedIndex));
 }
 
 std::optional<SelectionMessage> ShipSelection::remove()
@@ -138,13 +143,14 @@ std::optional<SelectionMessage> ShipSelection::remove()
     if (divShipCount() < 1) {
         return SelectionMessage::NothingToRemove;
     }
-    takeOffTrack({m_selectedShip});
+    const QString ship = selectedShip();
+    takeOffTrack({ship});
     std::int16_t& ofForce = forceCount();
     ofForce = toInt16(ofForce - 1.0);
     const ListedNavy* const navy = listedNavy(m_browser.currentNavy());
-    m_browser.unmark(m_selectedShip, navy ? navy->removalRows : 0);
+    m_browser.unmark(ship, navy ? navy->removalRows : 0);
     m_entries.removeAt(m_selectedIndex);
-    select(std::max(0, std::min(m_selectedIndex, divShipCount() - 1)));
+    m_selectedIndex = std::max(0, std::min(m_selectedIndex, divShipCount() - 1));
     return std::nullopt;
 }
 

@@ -9,6 +9,7 @@
 #include "ship_selection/ship_grid.h"
 #include "ui_ship_dbase_frm.h"
 
+#include <QScopeGuard>
 #include <QShortcut>
 #include <QSignalBlocker>
 
@@ -130,11 +131,11 @@ void ShipDBaseFrm::openDivision()
     markSelectedShips();
 }
 
-// Every fill ends on a data row.
+// Every fill ends on a data row, also one that fails: a grid without a current row takes no pick.
 void ShipDBaseFrm::refill(const std::function<void()>& fill)
 {
+    const auto onDataRow = qScopeGuard([this] { m_ui->Grid1->goToFirstRow(); });
     m_model->refill(fill);
-    m_ui->Grid1->goToFirstRow();
 }
 
 void ShipDBaseFrm::selectForceNavy()
@@ -159,7 +160,12 @@ void ShipDBaseFrm::filterBy(const char* navy)
 void ShipDBaseFrm::sortBy(ShipColumn column)
 {
     const HourglassPointer hourglass;
-    refill([&] { m_browser.sortShips(column); });
+    try {
+        refill([&] { m_browser.sortShips(column); });
+    } catch (const RuntimeError&) {
+        markSelectedShips();
+        throw;
+    }
     markSelectedShips();
 }
 

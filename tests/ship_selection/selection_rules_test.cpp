@@ -281,6 +281,35 @@ TEST_F(Selection, RemoveGoesOnWithTheLineThatMovesUpUntilThereIsNone)
     EXPECT_EQ(track(), QStringList({""}));
 }
 
+TEST_F(Selection, AShipPickedBehindTheRemovalOfTheLastOneIsRemovedWhole)
+{
+    useCatalogue(shipsOf("RN", 2));
+    open();
+    pickAll({"RN 1"});
+    EXPECT_EQ(remove(0), std::nullopt);
+    EXPECT_EQ(selection.selectedShip(), "");
+    pickAll({"RN 2"});
+    EXPECT_EQ(selection.selectedIndex(), 0);
+    EXPECT_EQ(selection.selectedShip(), "RN 2");
+    EXPECT_EQ(selection.remove(), std::nullopt);
+    EXPECT_EQ(track(), QStringList({""}));
+    EXPECT_EQ(markedNames(browser), QStringList());
+    EXPECT_EQ(selection.blueShipCount(), 0);
+    EXPECT_EQ(pick("RN 2"), std::nullopt);
+}
+
+TEST_F(Selection, ALineThatTheListLacksIsNone)
+{
+    useCatalogue(shipsOf("RN", 2));
+    open();
+    pickAll({"RN 1"});
+    for (const int index : {-1, 1, 9}) {
+        EXPECT_EQ(remove(index), Message::NoneToRemoveSelected) << index;
+        EXPECT_EQ(selection.selectedIndex(), -1);
+    }
+    EXPECT_EQ(selection.entries(), QStringList({"DD RN 1"}));
+}
+
 TEST_F(Selection, RemovesOfTheKriegsmarineLeaveTheMarkBeyondRow129)
 {
     useCatalogue(shipsOf("KM", 198), "KM");
