@@ -105,9 +105,15 @@ void DivisionRecords::recount()
     m_blueDivCount = 0;
     m_redDivCount = 0;
     // Without a first division of Force A the counts are 0, whatever Force B has. Kept.
-    if (!isThere(m_files.divisionFile(Side::Blue, 1))) {
-        return;
+    if (isThere(m_files.divisionFile(Side::Blue, 1))) {
+        countLoaded();
     }
+}
+
+void DivisionRecords::countLoaded()
+{
+    m_blueDivCount = 0;
+    m_redDivCount = 0;
     for (int number = 1; number <= divisionsPerSide; ++number) {
         m_blueDivCount += isThere(m_files.divisionFile(Side::Blue, number)) ? 1 : 0;
         m_redDivCount += isThere(m_files.divisionFile(Side::Red, number)) ? 1 : 0;
