@@ -105,7 +105,8 @@ public:
     /// that name and side.
     bool writeFlagship(const DivisionVars& vars, int row);
 
-    /// The settings of a division from the profile; what it lacks stays as it is in `vars`.
+    /// The settings of a division from the profile, "INVALID" for a key that its section lacks; `vars` stays
+    /// as it is where there is no such section.
     void loadDivisionKeys(const QString& name, DivisionVars& vars) const;
     /// The settings from the DivData file of `name`, or the defaults where there is none.
     void readDivData(const QString& name, Language language, DivisionVars& vars) const;

@@ -4,6 +4,7 @@
 #include "platform/number_text.h"
 #include "platform/runtime_error.h"
 #include "platform/text_files.h"
+#include "ship_selection/ship_line.h"
 
 #include <QFileInfo>
 
@@ -14,15 +15,8 @@ namespace torvane {
 namespace {
 
 constexpr int highestDivision = 8;
-/// A line of the list is the type of two letters, a blank, the name.
-constexpr qsizetype nameStart = 3;
 /// Remove takes the lines of a full division; a loaded division may have more.
 constexpr int lastRemovableIndex = 9;
-
-QString nameOf(const QString& entry)
-{
-    return entry.mid(nameStart);
-}
 
 } // namespace
 
@@ -119,7 +113,7 @@ std::optional<SelectionMessage> ShipSelection::pick(int row)
     // The files first: what fails there must not stand in the list.
     writeShipDataRecord(name, divShipCount());
     ofForce = raised;
-    m_entries.append(type + u' ' + name);
+    m_entries.append(shipLine(type, name));
     m_browser.mark(row);
     return std::nullopt;
 }
@@ -132,7 +126,7 @@ void ShipSelection::select(int index)
 // Read from the line itself: index and name always belong together.
 QString ShipSelection::selectedShip() const
 {
-    return nameOf(m_entries.value(m_selectedIndex));
+    return shipNameOf(m_entries.value(m_selectedIndex));
 }
 
 std::optional<SelectionMessage> ShipSelection::remove()
@@ -159,7 +153,7 @@ void ShipSelection::clear()
     if (!m_entries.isEmpty()) {
         QSet<QString> names;
         for (const QString& entry : m_entries) {
-            names.insert(nameOf(entry));
+            names.insert(shipNameOf(entry));
         }
         takeOffTrack(names);
     }
@@ -167,7 +161,7 @@ void ShipSelection::clear()
     std::int16_t& ofForce = forceCount();
     for (const QString& entry : m_entries) {
         // A ship of a navy that isn't shown stays counted until the dialog is opened again. Kept.
-        if (m_browser.unmark(nameOf(entry), navy ? navy->rows : 0)) {
+        if (m_browser.unmark(shipNameOf(entry), navy ? navy->rows : 0)) {
             ofForce = toInt16(ofForce - 1.0);
         }
     }

@@ -149,6 +149,36 @@ TEST_F(Selection, AtTheScenariosLimitTheRefusedPickStaysCountedUntilTheNextOpeni
     EXPECT_EQ(selection.blueShipCount(), 28);
 }
 
+TEST_F(Selection, APickedShipIsRefusedAheadOfTheLimitsAndNotCounted)
+{
+    for (int number = 1; number <= 4; ++number) {
+        putDivision(Side::Blue, number, 7);
+    }
+    useCatalogue(shipsOf("RN", 2));
+    setTrack({"", "RN 1"});
+    open(Side::Blue, 5);
+    EXPECT_EQ(pick("RN 1"), Message::AlreadySelected) << "28 of 28";
+    EXPECT_EQ(selection.blueShipCount(), 28);
+    EXPECT_EQ(pick("RN 2"), Message::ForceFull);
+    putDivision(Side::Red, 1, 4);
+    open(Side::Blue, 5);
+    EXPECT_EQ(pick("RN 1"), Message::AlreadySelected) << "32 of 32";
+    EXPECT_EQ(selection.blueShipCount(), 28);
+    EXPECT_EQ(pick("RN 2"), Message::ScenarioFull);
+}
+
+TEST_F(Selection, TheCountOfAForceHasNoLowerBound)
+{
+    useCatalogue(shipsOf("RN", 2));
+    files.write(files.divisionFile(Side::Red, 1), {"DD RN 1"});
+    open(Side::Red);
+    EXPECT_EQ(selection.redShipCount(), 0) << "without a first division of Force A";
+    EXPECT_EQ(remove(0), std::nullopt);
+    EXPECT_EQ(selection.redShipCount(), -1);
+    pickAll({"RN 2"});
+    EXPECT_EQ(selection.redShipCount(), 0);
+}
+
 TEST_F(Selection, AtTheForcesLimitTheCountIs28)
 {
     for (int number = 1; number <= 4; ++number) {
@@ -319,6 +349,7 @@ TEST_F(Selection, RemovesOfTheKriegsmarineLeaveTheMarkBeyondRow129)
         EXPECT_EQ(remove(0), std::nullopt);
     }
     EXPECT_EQ(markedNames(browser), QStringList({"KM 130", "KM 198"}));
+    EXPECT_EQ(selection.blueShipCount(), 0) << "counted down whether or not a row was found";
     EXPECT_EQ(track(), QStringList({""}));
     browser.filterNavy("KM");
     browser.markSelectedShips(track());
@@ -410,8 +441,9 @@ TEST_F(Selection, TheTableOfPickedNamesTakes31)
     selection.writeShipDataRecord("RN 2", 30);
     EXPECT_EQ(selection.pickedName(30), "RN 2");
     for (const int index : {31, -1}) {
-        expectError([&] { selection.writeShipDataRecord("RN 3", index); }, RuntimeError::SubscriptOutOfRange,
-                    ::testing::_);
+        expectError(
+            RuntimeError::SubscriptOutOfRange, [&] { selection.writeShipDataRecord("RN 3", index); },
+            ::testing::_);
     }
     EXPECT_EQ(track(), QStringList({"", "RN 1", "RN 2"}));
     EXPECT_EQ(sectionNames(files.iniShipData()), QStringList({"[SHIP_DATA_RECORDS]", "[RN 1]", "[RN 2]"}));
