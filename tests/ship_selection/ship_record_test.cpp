@@ -12,6 +12,7 @@ namespace torvane {
 namespace {
 
 using ::testing::AllOf;
+using testing::expectError;
 using ::testing::HasSubstr;
 
 class ShipRecord : public testing::ShipRecordFixture
