@@ -92,7 +92,7 @@ TEST_F(Flagship, IsPickedByTheKeyboardToo)
 TEST_F(Flagship, IsTheFirstShipAloneAfterAKeepWhateverWasBefore)
 {
     openScenario();
-    create(Side::Blue);
+    create(Side::Red); // of the Royal Navy, unless the overview says otherwise
     click(push("CmdAdd"));
     for (const char* name : {"Cossack", "Maori", "Sikh"}) {
         pickShip(name);
