@@ -254,7 +254,7 @@ TEST_F(DatabaseFile, CutOffIsDamaged)
         Database database(path(), readOnly);
         database.execute("SELECT * FROM ShipDataB", "ShipDataB");
     };
-    expectError(use, RuntimeError::DatabaseFailure, HasSubstr("is damaged. Put a sound copy"));
+    expectError(RuntimeError::DatabaseFailure, use, HasSubstr("is damaged. Put a sound copy"));
 }
 
 TEST_F(DatabaseFile, UnreadableIsPermissionDenied)
