@@ -131,7 +131,7 @@ private:
     QLineEdit* m_txtDivName = nullptr;
     QWidget* const m_picMask = hiddenControl<QWidget>("PicMask");
     bool m_jobFailed = false; ///< the job could not be begun: it can only be cancelled
-    QPoint m_centre; ///< of the picture of the heading mark
+    QPoint m_centre;          ///< of the picture of the heading mark
 };
 
 } // namespace torvane

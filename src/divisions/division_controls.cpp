@@ -315,8 +315,8 @@ void CreateDivisionFrm::openShips()
     ships.showForm(this);
 }
 
-// What Enter does, and where the focus goes: out of a job that failed; else the ships first, then the settings while they are open, then
-// the save.
+// What Enter does, and where the focus goes: out of a job that failed; else the ships first, then the
+// settings while they are open, then the save.
 QPushButton* CreateDivisionFrm::nextStep() const
 {
     if (m_jobFailed) {

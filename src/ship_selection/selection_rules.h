@@ -73,8 +73,8 @@ public:
 
     /// Remembers a line of the list for Remove; any other index is none.
     void select(int index);
-    /// The remembered line, -1 for none. Behind the removal of the last ship it is 0 all the same, for the ship
-    /// that is picked next.
+    /// The remembered line, -1 for none. Behind the removal of the last ship it is 0 all the same, for the
+    /// ship that is picked next.
     int selectedIndex() const { return m_selectedIndex; }
     /// The name in the remembered line; empty if there is none.
     QString selectedShip() const;
