@@ -181,16 +181,20 @@ void CreateDivisionFrm::onActivate()
 
 bool CreateDivisionFrm::beginJob()
 {
+    m_jobFailed = true;
     enableSettings(false);
     m_ui->optEncumYES->setEnabled(false);
     showLock(false);
     m_ui->GrdDivision->setEnabled(false);
     showForce();
+    bool begun = true;
     if (creates()) {
-        return beginCreation();
+        begun = beginCreation();
+    } else {
+        beginEdit();
     }
-    beginEdit();
-    return true;
+    m_jobFailed = false;
+    return begun;
 }
 
 bool CreateDivisionFrm::beginCreation()
@@ -287,8 +291,22 @@ void CreateDivisionFrm::becomeReady()
     m_picMask->hide();
     setInputEnabled(true);
     ShipEnabled();
+    m_ui->cmdDivDataChng->setEnabled(true);
+    if (m_jobFailed) {
+        lockFailedJob();
+    }
     showShipCount();
     leadToNextStep();
+}
+
+// The controls still hold the settings of the division before: nothing of them may be stored.
+void CreateDivisionFrm::lockFailedJob()
+{
+    enableSettings(false);
+    for (QPushButton* button : {m_ui->CmdAdd, m_ui->CmdFlagShip, m_ui->CmdEditShip, m_ui->CmdNewDivision,
+                                m_ui->cmdDivDataChng, m_ui->CmdSaveData, m_ui->cmdOK}) {
+        button->setEnabled(false);
+    }
 }
 
 void CreateDivisionFrm::showForce()

@@ -87,6 +87,7 @@ private:
     void loadDivision(const QString& name, int number);
     void showDivisionInDialog(const DivisionVars& vars, bool encumbered);
     void becomeReady();
+    void lockFailedJob();
     void showForce();
     void showName(const QString& drawn, const QString& label);
 
@@ -129,7 +130,8 @@ private:
     ListCombo* m_cmbSide = nullptr;
     QLineEdit* m_txtDivName = nullptr;
     QWidget* const m_picMask = hiddenControl<QWidget>("PicMask");
-    QPoint m_centre; ///< of the picture of the heading mark
+    bool m_jobFailed = false; ///< the job could not be begun: it can only be cancelled
+    QPoint m_centre;          ///< of the picture of the heading mark
 };
 
 } // namespace torvane

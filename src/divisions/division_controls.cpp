@@ -315,10 +315,13 @@ void CreateDivisionFrm::openShips()
     ships.showForm(this);
 }
 
-// What Enter does, and where the focus goes: the ships first, then the settings while they are open, then
-// the save.
+// What Enter does, and where the focus goes: out of a job that failed; else the ships first, then the
+// settings while they are open, then the save.
 QPushButton* CreateDivisionFrm::nextStep() const
 {
+    if (m_jobFailed) {
+        return creates() ? m_ui->CmdCancel : m_ui->CmdEditCancel;
+    }
     if (!m_ui->cmdKeepDivData->isHidden()) {
         return m_ui->cmdKeepDivData;
     }

@@ -90,6 +90,8 @@ void CreateDivisionFrm::clearDialog()
 
 void CreateDivisionFrm::leave()
 {
+    // A click or close box that is still on its way must not leave, and count, a second time.
+    setInputEnabled(false);
     m_editor.mainFrm().setInputEnabled(true);
     hideForm();
     setValue(chkReturnFlag, 0);

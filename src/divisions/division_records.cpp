@@ -2,6 +2,7 @@
 
 #include "platform/number_text.h"
 #include "platform/text_files.h"
+#include "ship_selection/ship_line.h"
 #include "ship_selection/ship_record.h"
 #include "store/profile_keys.h"
 
@@ -18,16 +19,6 @@ constexpr int sourceNameLength = 13;
 constexpr int snapshotPlaces = 10;
 
 constexpr const char* scenarioInfo = "SCENARIOINFO ";
-
-QString typeOf(const QString& line)
-{
-    return line.left(2);
-}
-
-QString nameOf(const QString& line)
-{
-    return line.mid(3);
-}
 
 bool isThere(const QString& path)
 {
@@ -105,9 +96,15 @@ void DivisionRecords::recount()
     m_blueDivCount = 0;
     m_redDivCount = 0;
     // Without a first division of Force A the counts are 0, whatever Force B has. Kept.
-    if (!isThere(m_files.divisionFile(Side::Blue, 1))) {
-        return;
+    if (isThere(m_files.divisionFile(Side::Blue, 1))) {
+        countLoaded();
     }
+}
+
+void DivisionRecords::countLoaded()
+{
+    m_blueDivCount = 0;
+    m_redDivCount = 0;
     for (int number = 1; number <= divisionsPerSide; ++number) {
         m_blueDivCount += isThere(m_files.divisionFile(Side::Blue, number)) ? 1 : 0;
         m_redDivCount += isThere(m_files.divisionFile(Side::Red, number)) ? 1 : 0;
@@ -178,7 +175,7 @@ void DivisionRecords::requireSavable(const DivisionFields& fields, bool created)
     const QStringList kept = created ? QStringList() : listBeforeEdit();
     for (const QString& line : listOf(sideOfWord(vars.side), toInt16(numberValue(vars.number)))) {
         if (!kept.contains(line)) {
-            m_ships.requireRecord(nameOf(line));
+            m_ships.requireRecord(shipNameOf(line));
         }
     }
     for (const QString& section : created ? QStringList() : sectionsOf(vars)) {
@@ -190,7 +187,7 @@ bool DivisionRecords::writeFlagship(const DivisionVars& vars, int row)
 {
     const QStringList sections = sectionsOf(vars);
     for (const QString& section : sections) {
-        // With the blank that stands for a number's sign.
+        // With the blank that stands for a number's sign; the profile stores no blanks about a value.
         m_profile.write(section, u"FLAGSHIPINDEX", QLatin1Char(' ') + QString::number(row));
     }
     return !sections.isEmpty();
@@ -241,9 +238,9 @@ void DivisionRecords::moveShips(int division, const DivisionVars& vars, int oldC
         const QString target = shipSection(division, place);
         ++place;
         if (before.contains(line)) {
-            restoreShipSection(nameOf(line), target);
+            restoreShipSection(shipNameOf(line), target);
         } else {
-            m_ships.AddIndividualShip(typeOf(line), nameOf(line), target);
+            m_ships.AddIndividualShip(shipTypeOf(line), shipNameOf(line), target);
         }
     }
     if (lines.size() >= oldCount) {
@@ -288,7 +285,7 @@ void DivisionRecords::writeDivData(const DivisionVars& vars) const
     const Side side = sideOfWord(vars.side);
     const QByteArray lines =
         quotedLines({vars.name, vars.side, vars.formation, vars.heading, vars.spacing, vars.speed});
-    writeWholeFile(m_files.divDataFile(side, toInt16(numberValue(vars.number))), lines + "\r\n\r\n");
+    writeScratchFile(m_files.divDataFile(side, toInt16(numberValue(vars.number))), lines + "\r\n\r\n");
 }
 
 DivisionShips DivisionRecords::loadDivisionShips(const QString& name, const QString& sideLabel)
@@ -311,8 +308,7 @@ DivisionShips DivisionRecords::loadDivisionShips(const QString& name, const QStr
             const double place = numberValue(index);
             const bool inRange = place >= 0 && place <= highestShipIndex;
             const QString ship = shipPlace(section, inRange ? toInt16(place) : 0);
-            flagship =
-                m_profile.GetIniKey(ship, u"TYPE") + QLatin1Char(' ') + m_profile.GetIniKey(ship, u"NAME");
+            flagship = shipLine(m_profile.GetIniKey(ship, u"TYPE"), m_profile.GetIniKey(ship, u"NAME"));
         }
         const QString first = shipPlace(section, 0);
         ships.xPosition = toInt32(numberValue(m_profile.GetIniKey(first, u"XPOSITION")));

@@ -83,8 +83,10 @@ public:
     int blueDivCount() const { return m_blueDivCount; }
     int redDivCount() const { return m_redDivCount; }
     void countDivision(Side side, int change);
-    /// Takes the counts anew from the Division files: where the store was replaced as a whole.
+    /// Takes the counts from the Division files, 1 to 6 of each side; both are 0 if Force A has no first.
     void recount();
+    /// Takes the counts from the Division files of each side, whatever the other has: behind a load.
+    void countLoaded();
 
     /// `DIVISIONCNT` as "0", the first step of a creation.
     void saveDivCountINI();
@@ -103,7 +105,8 @@ public:
     /// that name and side.
     bool writeFlagship(const DivisionVars& vars, int row);
 
-    /// The settings of a division from the profile; what it lacks stays as it is in `vars`.
+    /// The settings of a division from the profile, "INVALID" for a key that its section lacks; `vars` stays
+    /// as it is where there is no such section.
     void loadDivisionKeys(const QString& name, DivisionVars& vars) const;
     /// The settings from the DivData file of `name`, or the defaults where there is none.
     void readDivData(const QString& name, Language language, DivisionVars& vars) const;

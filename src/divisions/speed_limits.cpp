@@ -3,6 +3,7 @@
 #include "overview/typed_values.h"
 #include "platform/number_text.h"
 #include "platform/runtime_error.h"
+#include "ship_selection/ship_line.h"
 #include "store/ship_catalogue.h"
 
 #include <algorithm>
@@ -12,7 +13,6 @@ namespace torvane {
 namespace {
 
 constexpr double startLimit = 50;
-constexpr qsizetype typeLength = 2;
 
 /// Beyond a million one number is as good as another: it wraps all the same.
 double wholeNumber(const QString& text)
@@ -23,7 +23,7 @@ double wholeNumber(const QString& text)
 
 double topSpeed(const QString& line, ShipCatalogue& catalogue)
 {
-    catalogue.shipToClass(line.mid(typeLength).trimmed());
+    catalogue.shipToClass(line.mid(shipLineTypeLength).trimmed());
     return wholeNumber(catalogue.ShipDaClass().value(u"e"));
 }
 

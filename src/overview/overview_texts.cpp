@@ -1,5 +1,6 @@
 #include "overview/overview_texts.h"
 
+#include "overview/force_navies.h"
 #include "overview/missions.h"
 
 #include <algorithm>
@@ -100,10 +101,10 @@ constexpr std::array<CodedCaption, 4> airControls{{
 }};
 
 constexpr std::array<CodedCaption, 4> navies{{
-    {"KM", inBoth("Kriegsmarine (KM)")},
-    {"USN", inBoth("United States Navy (USN)")},
-    {"IJN", {"Imperial Japanese Navy (IJN)", "Japanische Marine (IJN)"}},
-    {"RN", inBoth("Royal Navy (RN)")},
+    {"KM", navyKM},
+    {"USN", navyUSN},
+    {"IJN", navyIJN},
+    {"RN", navyRN},
 }};
 
 constexpr std::array<CodedCaption, 2> rainStates{{

@@ -60,7 +60,8 @@ bool isReadableKey(QByteArrayView key, QByteArrayView value)
 class Profile::Parser
 {
 public:
-    explicit Parser(Profile& profile) : m_profile(profile), m_start(profile.m_bytes.constData()) {}
+    // As a view: that of an empty file starts at no address, its bytes themselves at some.
+    explicit Parser(Profile& profile) : m_profile(profile), m_start(QByteArrayView(profile.m_bytes).data()) {}
 
     void run()
     {

@@ -1,5 +1,6 @@
 #include "shell/load_commands.h"
 
+#include "divisions/create_division_frm.h"
 #include "overview/overview_frm.h"
 #include "platform/pointer.h"
 #include "platform/runtime_error.h"
@@ -78,8 +79,10 @@ void rebuildFrom(const Profile& file, Editor& editor)
     TargetArea target = mainFrm.targetArea();
     const auto placed = qScopeGuard([&] { mainFrm.placeTargetArea(target.x, target.z); });
     LoadedForces forces(mainFrm.menu());
+    // The division dialog takes its own counts when it is first called for: before those that shall stand.
+    editor.createDivisionFrm();
     rebuildStore(file, editor.workingProfile(), editor.scratchFiles(), target, forces, advance);
-    editor.divisionRecords().recount();
+    editor.divisionRecords().countLoaded();
     mainFrm.readMapScale();
 }
 

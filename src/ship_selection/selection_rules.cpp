@@ -4,6 +4,7 @@
 #include "platform/number_text.h"
 #include "platform/runtime_error.h"
 #include "platform/text_files.h"
+#include "ship_selection/ship_line.h"
 
 #include <QFileInfo>
 
@@ -14,15 +15,8 @@ namespace torvane {
 namespace {
 
 constexpr int highestDivision = 8;
-/// A line of the list is the type of two letters, a blank, the name.
-constexpr qsizetype nameStart = 3;
 /// Remove takes the lines of a full division; a loaded division may have more.
 constexpr int lastRemovableIndex = 9;
-
-QString nameOf(const QString& entry)
-{
-    return entry.mid(nameStart);
-}
 
 } // namespace
 
@@ -119,15 +113,20 @@ std::optional<SelectionMessage> ShipSelection::pick(int row)
     // The files first: what fails there must not stand in the list.
     writeShipDataRecord(name, divShipCount());
     ofForce = raised;
-    m_entries.append(type + u' ' + name);
+    m_entries.append(shipLine(type, name));
     m_browser.mark(row);
     return std::nullopt;
 }
 
 void ShipSelection::select(int index)
 {
-    m_selectedIndex = index;
-    m_selectedShip = index >= 0 && index < divShipCount() ? nameOf(m_entries[index]) : QString();
+    m_selectedIndex = index >= 0 && index < divShipCount() ? index : -1;
+}
+
+// Read from the line itself: index and name always belong together.
+QString ShipSelection::selectedShip() const
+{
+    return shipNameOf(m_entries.value(m_selectedIndex));
 }
 
 std::optional<SelectionMessage> ShipSelection::remove()
@@ -138,13 +137,14 @@ std::optional<SelectionMessage> ShipSelection::remove()
     if (divShipCount() < 1) {
         return SelectionMessage::NothingToRemove;
     }
-    takeOffTrack({m_selectedShip});
+    const QString ship = selectedShip();
+    takeOffTrack({ship});
     std::int16_t& ofForce = forceCount();
     ofForce = toInt16(ofForce - 1.0);
     const ListedNavy* const navy = listedNavy(m_browser.currentNavy());
-    m_browser.unmark(m_selectedShip, navy ? navy->removalRows : 0);
+    m_browser.unmark(ship, navy ? navy->removalRows : 0);
     m_entries.removeAt(m_selectedIndex);
-    select(std::max(0, std::min(m_selectedIndex, divShipCount() - 1)));
+    m_selectedIndex = std::max(0, std::min(m_selectedIndex, divShipCount() - 1));
     return std::nullopt;
 }
 
@@ -153,7 +153,7 @@ void ShipSelection::clear()
     if (!m_entries.isEmpty()) {
         QSet<QString> names;
         for (const QString& entry : m_entries) {
-            names.insert(nameOf(entry));
+            names.insert(shipNameOf(entry));
         }
         takeOffTrack(names);
     }
@@ -161,7 +161,7 @@ void ShipSelection::clear()
     std::int16_t& ofForce = forceCount();
     for (const QString& entry : m_entries) {
         // A ship of a navy that isn't shown stays counted until the dialog is opened again. Kept.
-        if (m_browser.unmark(nameOf(entry), navy ? navy->rows : 0)) {
+        if (m_browser.unmark(shipNameOf(entry), navy ? navy->rows : 0)) {
             ofForce = toInt16(ofForce - 1.0);
         }
     }

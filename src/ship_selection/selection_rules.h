@@ -71,10 +71,13 @@ public:
     /// scenario, the force's count.
     std::optional<SelectionMessage> pick(int row);
 
-    /// Remembers a line of the list for Remove; -1 is none.
+    /// Remembers a line of the list for Remove; any other index is none.
     void select(int index);
+    /// The remembered line, -1 for none. Behind the removal of the last ship it is 0 all the same, for the
+    /// ship that is picked next.
     int selectedIndex() const { return m_selectedIndex; }
-    const QString& selectedShip() const { return m_selectedShip; }
+    /// The name in the remembered line; empty if there is none.
+    QString selectedShip() const;
 
     /// Removes the remembered ship; the line that moves up becomes the remembered one.
     std::optional<SelectionMessage> remove();
@@ -113,7 +116,6 @@ private:
     std::int16_t m_blueShipCount = 0;
     std::int16_t m_redShipCount = 0;
     int m_selectedIndex = -1;
-    QString m_selectedShip;
     std::array<QString, pickedNamePlaces> m_pickedNames;
     QStringList m_track;
     QSet<QString> m_taken;

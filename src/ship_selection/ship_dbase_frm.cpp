@@ -9,6 +9,8 @@
 #include "ship_selection/ship_grid.h"
 #include "ui_ship_dbase_frm.h"
 
+#include <QKeyEvent>
+#include <QScopeGuard>
 #include <QShortcut>
 #include <QSignalBlocker>
 
@@ -73,6 +75,7 @@ void ShipDBaseFrm::connectSelection()
     on(m_ui->CmdRemove, &QPushButton::clicked, [this] { remove(); });
     auto* const deleteKey = new QShortcut(QKeySequence(Qt::Key_Delete), m_ui->LstDivision);
     deleteKey->setContext(Qt::WidgetShortcut);
+    deleteKey->setAutoRepeat(false); // a key that is held down removes one ship
     on(deleteKey, &QShortcut::activated, [this] { remove(); });
     on(m_ui->CmdClear, &QPushButton::clicked, [this] { clearAll(); });
     on(m_ui->CmdCancel, &QPushButton::clicked, [this] { cancel(); });
@@ -86,16 +89,36 @@ void ShipDBaseFrm::applyCaptions(Language language)
     m_model->setLanguage(language);
     m_ui->Grid1->setAccessibleName(shipText(ShipText::GridName, language));
     m_ui->LstDivision->setAccessibleName(mainText(MainText::Division, language));
+    m_ui->PicTest->setAccessibleName(shipText(ShipText::ClickedName, language));
+}
+
+// Tab makes a line of the list the current one without selecting it: the first arrow key selects that line,
+// not the next.
+bool ShipDBaseFrm::eventFilter(QObject* watched, QEvent* event)
+{
+    if (Form::eventFilter(watched, event)) {
+        return true;
+    }
+    if (event->type() != QEvent::KeyPress || watched != m_ui->LstDivision) {
+        return false;
+    }
+    const int key = static_cast<QKeyEvent*>(event)->key();
+    QListWidgetItem* const line = m_ui->LstDivision->currentItem();
+    if ((key != Qt::Key_Up && key != Qt::Key_Down) || !line || line->isSelected()) {
+        return false;
+    }
+    line->setSelected(true);
+    return true;
 }
 
 void ShipDBaseFrm::onLoad()
 {
     EditorForm::onLoad();
     m_ui->Grid1->sizeColumns(ShipLists(), m_editor.language());
-    showSelection();
-    m_loadReported = true;
-    loadShips();
     m_selection.countForces();
+    showSelection();
+    m_readAtLoad = true;
+    loadShips();
 }
 
 void ShipDBaseFrm::loadShips()
@@ -112,7 +135,7 @@ void ShipDBaseFrm::onActivate()
     m_ui->LstDivision->show();
     m_ui->Grid1->setFocus();
     m_sortMode = 0;
-    if (!m_browser.hasLists() && !std::exchange(m_loadReported, false)) {
+    if (!m_browser.hasLists() && !std::exchange(m_readAtLoad, false)) {
         runHandler([this] { loadShips(); });
     }
     openDivision();
@@ -130,11 +153,11 @@ void ShipDBaseFrm::openDivision()
     markSelectedShips();
 }
 
-// Every fill ends on a data row.
+// Every fill ends on a data row, also one that fails: a grid without a current row takes no pick.
 void ShipDBaseFrm::refill(const std::function<void()>& fill)
 {
+    const auto onDataRow = qScopeGuard([this] { m_ui->Grid1->goToFirstRow(); });
     m_model->refill(fill);
-    m_ui->Grid1->goToFirstRow();
 }
 
 void ShipDBaseFrm::selectForceNavy()
@@ -159,7 +182,12 @@ void ShipDBaseFrm::filterBy(const char* navy)
 void ShipDBaseFrm::sortBy(ShipColumn column)
 {
     const HourglassPointer hourglass;
-    refill([&] { m_browser.sortShips(column); });
+    try {
+        refill([&] { m_browser.sortShips(column); });
+    } catch (const RuntimeError&) {
+        markSelectedShips();
+        throw;
+    }
     markSelectedShips();
 }
 

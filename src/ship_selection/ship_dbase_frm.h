@@ -31,6 +31,7 @@ protected:
     void onActivate() override;
     void onCloseBox() override;
     void applyCaptions(Language language) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void connectBrowser();
@@ -62,8 +63,8 @@ private:
     ShipBrowser m_browser;
     ShipSelection m_selection;
     ShipGridModel* const m_model;
-    int m_sortMode = 0;          ///< 1 while the sort options are on, as far as this activation knows
-    bool m_loadReported = false; ///< the catalogue failed at load, and the author has been told
+    int m_sortMode = 0;        ///< 1 while the sort options are on, as far as this activation knows
+    bool m_readAtLoad = false; ///< the load has tried the catalogue: the opening behind it doesn't try again
 };
 
 } // namespace torvane

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "overview/force_navies.h"
 #include "platform/bilingual.h"
 #include "store/record_source.h"
 
@@ -46,11 +47,11 @@ struct ListedNavy
 };
 
 inline constexpr std::array<ListedNavy, 4> listedNavies{{
-    {QLatin1StringView("RN"), 424, 424, inBoth("Royal Navy (RN)")},
-    {QLatin1StringView("USN"), 399, 399, inBoth("United States Navy (USN)")},
+    {QLatin1StringView("RN"), 424, 424, navyRN},
+    {QLatin1StringView("USN"), 399, 399, navyUSN},
     // The removal stops short of the list's end: the mark of a ship beyond stays until the next fill. Kept.
-    {QLatin1StringView("KM"), 198, 129, inBoth("Kriegsmarine (KM)")},
-    {QLatin1StringView("IJN"), 245, 245, {"Imperial Japanese Navy (IJN)", "Japanische Marine (IJN)"}},
+    {QLatin1StringView("KM"), 198, 129, navyKM},
+    {QLatin1StringView("IJN"), 245, 245, navyIJN},
 }};
 /// Ships that the list of all takes.
 inline constexpr int listedShips = 1266;

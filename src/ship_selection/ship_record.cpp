@@ -1,6 +1,7 @@
 #include "ship_selection/ship_record.h"
 
 #include "platform/capitals.h"
+#include "ship_selection/ship_line.h"
 #include "store/profile_keys.h"
 
 #include <QFileInfo>
@@ -18,8 +19,6 @@ constexpr QStringView historicalRadar{u"Historical"};
 constexpr QStringView recordsSection{u"SHIP_DATA_RECORDS"};
 constexpr QStringView versionKey{u"VERSIONNUMBER"};
 constexpr QStringView version{u"64"};
-/// A line of a Division file is the type of two letters, a blank, the name.
-constexpr qsizetype nameStart = 3;
 
 /// A key of a ship's record and where its value comes from when the record is made.
 struct ShipKey
@@ -149,7 +148,7 @@ void ShipRecords::saveindivShipInfoINI(Side side, int number, const QString& sec
     for (const QString& line : m_files.read(list)) {
         Target target = inProfile(section + QStringLiteral("SHIP%1").arg(place++));
         target.withPosition = createMode;
-        writeRecord(target, line.mid(nameStart));
+        writeRecord(target, shipNameOf(line));
     }
 }
 

@@ -94,7 +94,7 @@ const SelectionMessageRow& selectionMessage(SelectionMessage message)
     return selectionMessages.at(static_cast<std::size_t>(message));
 }
 
-constexpr std::array<TextRow<ShipText>, 11> shipTexts{{
+constexpr std::array<TextRow<ShipText>, 12> shipTexts{{
     {ShipText::SortOff, {"Sort OFF", "Sortierung AUS"}},
     {ShipText::SortOn, {"Sort ON", "Sortierung EIN"}},
     {ShipText::SearchPrompt,
@@ -109,6 +109,7 @@ constexpr std::array<TextRow<ShipText>, 11> shipTexts{{
     {ShipText::ForceBCount, {"Force B: %1 of %2 ships", "Streitkraft B: %1 von %2 Schiffen"}},
     {ShipText::ScenarioCount, {"Scenario: %1 of %2 ships", "Szenario: %1 von %2 Schiffen"}},
     {ShipText::GridName, {"Ships", "Schiffe"}},
+    {ShipText::ClickedName, {"Clicked field", "Angeklicktes Feld"}},
 }};
 
 QString shipText(ShipText text, Language language)

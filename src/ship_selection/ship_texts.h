@@ -33,10 +33,11 @@ enum class ShipText {
     ForceACount,
     ForceBCount,
     ScenarioCount,
-    GridName, ///< what assistive tools call the grid
+    GridName,    ///< what assistive tools call the grid
+    ClickedName, ///< and the picture of the clicked cell
 };
 /// One row a text, in the order of `ShipText`.
-extern const std::array<TextRow<ShipText>, 11> shipTexts;
+extern const std::array<TextRow<ShipText>, 12> shipTexts;
 QString shipText(ShipText text, Language language);
 
 } // namespace torvane

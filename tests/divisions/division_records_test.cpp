@@ -137,6 +137,57 @@ TEST_F(Divisions, ARecountWithoutAFirstForceADivisionIsNought)
     EXPECT_EQ(records.redDivCount(), 0);
 }
 
+TEST_F(Divisions, ACountBehindALoadTakesEachSidesFilesWhateverTheOtherHas)
+{
+    files.write(files.divisionFile(Side::Red, 1), ships({2}));
+    files.write(files.divisionFile(Side::Red, 2), ships({3}));
+    records.countDivision(Side::Blue, 4);
+    records.countLoaded();
+    EXPECT_EQ(records.blueDivCount(), 0);
+    EXPECT_EQ(records.redDivCount(), 2);
+}
+
+TEST_F(Divisions, OfOneNameAndSideGetTheSameSettingsAllOfThem)
+{
+    create(Side::Blue, 1, ships({1}));
+    create(Side::Blue, 2, ships({2}));
+    profile.write(u"DIVISION1", u"DIVISIONNAME", u"Division 1");
+    DivisionFields shown = fields(Side::Blue, 1);
+    shown.heading = QStringLiteral("15");
+    records.saveEditedDivision(shown);
+    EXPECT_TRUE(records.writeFlagship(readDialogFields(shown), 3));
+    for (const char* section : {"DIVISION0", "DIVISION1"}) {
+        EXPECT_EQ(key(QLatin1StringView(section), "FORMATIONHEADING"), QStringLiteral("15")) << section;
+        EXPECT_EQ(key(QLatin1StringView(section), "FLAGSHIPINDEX"), QStringLiteral("3")) << section;
+    }
+}
+
+TEST_F(Divisions, OfASideInOtherLettersAreFoundForTheirShipsAndNotForTheirSettings)
+{
+    create(Side::Blue, 1, ships({1, 2}));
+    profile.write(u"DIVISION0", u"SIDE", u"bLUE");
+    const DivisionShips loaded = records.loadDivisionShips(QStringLiteral("Division 1"), forceALabel);
+    EXPECT_EQ(loaded.section, QStringLiteral("DIVISION0"));
+    EXPECT_EQ(loaded.flagshipRows, QList<int>{0});
+    DivisionVars vars{.side = blueWord, .heading = QStringLiteral("7")};
+    records.loadDivisionKeys(QStringLiteral("Division 1"), vars);
+    EXPECT_EQ(vars.heading, QStringLiteral("7"));
+    EXPECT_FALSE(records.writeFlagship(readDialogFields(fields(Side::Blue, 1)), 1));
+    DivisionFields shown = fields(Side::Blue, 1);
+    shown.heading = QStringLiteral("15");
+    records.saveEditedDivision(shown);
+    EXPECT_EQ(key(QStringLiteral("DIVISION0"), "FORMATIONHEADING"), QStringLiteral("90"));
+}
+
+TEST_F(Divisions, AKeyThatASectionLacksReadsAsTheWordForNothing)
+{
+    create(Side::Blue, 1, ships({1}));
+    profile.write(u"DIVISION0", u"SPEED", u"");
+    DivisionVars vars{.side = blueWord, .speed = QStringLiteral("7")};
+    records.loadDivisionKeys(QStringLiteral("Division 1"), vars);
+    EXPECT_EQ(vars.speed, invalidValue);
+}
+
 TEST_F(Divisions, ADivDataFileHasSixQuotedLinesAndTwoEmptyOnes)
 {
     records.writeDivData({.number = QStringLiteral("2"),

@@ -22,6 +22,12 @@ protected:
         return loaded;
     }
 
+    static void putBytes(const QString& path, const QByteArray& bytes)
+    {
+        QFile file(path);
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(bytes);
+    }
     void damage(int division, int place, const QString& points)
     {
         profile.write(shipSection(division, place), u"CURRENTHITPOINTS", points);
@@ -198,6 +204,73 @@ TEST_F(Edit, AFlagshipIndexOutOfRangeMeansTheFirstShipAndNoneMeansNone)
     }
     profile.write(u"DIVISION0", u"FLAGSHIPINDEX", u"");
     EXPECT_TRUE(begin(Side::Blue, 1).flagshipRows.isEmpty());
+}
+
+TEST_F(Edit, AFlagshipMayStandAtTheFourteenthPlaceAndNoFurther)
+{
+    const QStringList lines = ships({1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15});
+    create(Side::Blue, 1, lines);
+    profile.write(u"DIVISION0SHIP14", u"TYPE", u"DD");
+    profile.write(u"DIVISION0SHIP14", u"NAME", u"Ship 15");
+    profile.write(u"DIVISION0", u"FLAGSHIPINDEX", u"13");
+    EXPECT_EQ(begin(Side::Blue, 1).flagshipRows, QList<int>{13});
+    profile.write(u"DIVISION0", u"FLAGSHIPINDEX", u"14");
+    EXPECT_EQ(begin(Side::Blue, 1).flagshipRows, QList<int>{0});
+}
+
+TEST_F(Edit, TheCopyEndsWithTheTenthPlaceAndAShipBeyondItBringsNoDataAlong)
+{
+    create(Side::Blue, 1, ships({1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12}));
+    damage(0, 9, QStringLiteral("9"));
+    damage(0, 10, QStringLiteral("10"));
+    edit(Side::Blue, 1, ships({11, 10, 3, 4, 5, 6, 7, 8, 9, 2, 1, 12}));
+    EXPECT_EQ(GetIniKey(store, files.tempIniTemp(), u"DIVISION0SHIP9", u"NAME"), QStringLiteral("Ship 10"));
+    EXPECT_EQ(GetIniKey(store, files.tempIniTemp(), u"DIVISION0SHIP10", u"NAME"), invalidValue);
+    EXPECT_EQ(shipName(0, 1), QStringLiteral("Ship 10"));
+    EXPECT_EQ(points(0, 1), QStringLiteral("9"));
+    EXPECT_EQ(shipName(0, 0), QStringLiteral("Ship 1")) << "the section keeps what stood there";
+    EXPECT_EQ(shipName(0, 10), QStringLiteral("Ship 1"));
+    EXPECT_EQ(shipName(0, 11), QStringLiteral("Ship 12"));
+}
+
+TEST_F(Edit, WithACopyOfTheRecordsOfOtherTextTheShipsKeepWhatStood)
+{
+    create(Side::Blue, 1, ships({1, 2}));
+    damage(0, 1, QStringLiteral("7"));
+    begin(Side::Blue, 1);
+    putBytes(files.tempIniTemp(), "<html>\r\n[nothing\r\n= of ours\r\n");
+    records.saveEditedDivision(fields(Side::Blue, 1));
+    EXPECT_EQ(shipName(0, 0), QStringLiteral("Ship 1"));
+    EXPECT_EQ(shipName(0, 1), QStringLiteral("Ship 2"));
+    EXPECT_EQ(points(0, 1), QStringLiteral("7"));
+}
+
+TEST_F(Edit, WithACopyOfTheListCutInALineThatShipAloneGetsCatalogueValues)
+{
+    create(Side::Blue, 1, ships({1, 2, 3}));
+    for (const int place : {0, 1, 2}) {
+        damage(0, place, QStringLiteral("7"));
+    }
+    begin(Side::Blue, 1);
+    putBytes(files.exisitTemp(), "\"DD Ship 1\"\r\n\"DD Ship 2\"\r\n\"DD Sh");
+    records.saveEditedDivision(fields(Side::Blue, 1));
+    EXPECT_EQ(points(0, 0), QStringLiteral("7"));
+    EXPECT_EQ(points(0, 1), QStringLiteral("7"));
+    EXPECT_EQ(shipName(0, 2), QStringLiteral("Ship 3"));
+    EXPECT_EQ(points(0, 2), QStringLiteral("40"));
+}
+
+TEST_F(Edit, WithAListCutBehindALineTheRestIsNoShip)
+{
+    create(Side::Blue, 1, ships({1, 2, 3}));
+    begin(Side::Blue, 1);
+    putBytes(files.divisionFile(Side::Blue, 1), "\"DD Ship 1\"\r\n");
+    records.saveEditedDivision(fields(Side::Blue, 1));
+    EXPECT_EQ(key(QStringLiteral("DIVISION0"), "SHIPCNT"), QStringLiteral("1"));
+    EXPECT_EQ(shipName(0, 0), QStringLiteral("Ship 1"));
+    for (const int place : {1, 2, 3}) {
+        EXPECT_EQ(shipName(0, place), noShip) << place;
+    }
 }
 
 TEST_F(Edit, EndsWithBothCopiesGone)

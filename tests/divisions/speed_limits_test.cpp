@@ -92,6 +92,14 @@ TEST_F(SpeedLimit, IsTheSlowestShipsTopSpeedInACalmSea)
     EXPECT_EQ(highest({ship("BB", "30"), ship("TR", "12"), ship("DD", "36")}, "1"), 12);
 }
 
+TEST_F(SpeedLimit, RoundsTopSpeedAndSeaState)
+{
+    EXPECT_EQ(highest({ship("BB", "30.6")}, "1"), 31);
+    EXPECT_EQ(highest({ship("BB", "40")}, "7.6"), 20) << "row 8";
+    EXPECT_EQ(highest({ship("BB", "45")}, "2.5"), 45) << "row 2: a half goes to the even number";
+    EXPECT_EQ(highest({ship("BB", "46")}, "3.5"), 35) << "row 4";
+}
+
 TEST_F(SpeedLimit, IsFiftyAtMostAndTheSeaIsNotLookedAtForAFasterShip)
 {
     EXPECT_EQ(highest({ship("DD", "50"), ship("DD", "55")}, "8"), 50);

@@ -9,6 +9,9 @@ const QString backTab = QStringLiteral("shift+Tab");
 const QString space = QStringLiteral("space");
 const QString enter = QStringLiteral("Return");
 
+/// Within the first row of the ship dialog's list, below its header.
+constexpr QPoint topRow(100, 138);
+
 QString quoted(const QString& text)
 {
     return QLatin1Char('"') + text + QLatin1Char('"');
@@ -46,15 +49,40 @@ void DivisionDialog::openShipsOfEdit() const
     m_run.expectWindow(m_run.names().ships);
 }
 
-void DivisionDialog::pickShip(const QString& name) const
+// The search puts the ship's row on top.
+void DivisionDialog::goToShip(const QString& name) const
 {
     m_run.press({backTab, space});
     m_run.expectWindow(QStringLiteral("Ship Search"));
     m_run.desktop().type(name);
     m_run.press({enter});
     m_run.expectWindow(m_run.names().ships);
-    m_run.press({enter});
+}
+
+void DivisionDialog::expectPicked(const QString& name) const
+{
     m_run.expect(name + QStringLiteral(" among the picked ships"), [&] { return isTracked(name); });
+}
+
+void DivisionDialog::pickShip(const QString& name) const
+{
+    goToShip(name);
+    m_run.press({enter});
+    expectPicked(name);
+}
+
+void DivisionDialog::pickShipByClick(const QString& name) const
+{
+    goToShip(name);
+    m_run.desktop().clickActive(topRow);
+    expectPicked(name);
+}
+
+void DivisionDialog::pickShipByTyping(const QString& name) const
+{
+    m_run.desktop().type(name);
+    m_run.press({enter});
+    expectPicked(name);
 }
 
 void DivisionDialog::removeFirstShip() const

@@ -27,6 +27,10 @@ public:
 
     /// Among the ships, whose list has the focus at first and keeps it.
     void pickShip(const QString& name) const;
+    /// The same by a click on the row to which the search leads, and by letters typed into the list: the name
+    /// has no blank.
+    void pickShipByClick(const QString& name) const;
+    void pickShipByTyping(const QString& name) const;
     void removeFirstShip() const;
     /// Back to the dialog, with so many ships.
     void keepShips(int count) const;
@@ -38,6 +42,8 @@ public:
 
 private:
     bool isTracked(const QString& ship) const;
+    void goToShip(const QString& name) const;
+    void expectPicked(const QString& name) const;
     QString file(const QString& kind) const;
 
     const EditorRun& m_run;

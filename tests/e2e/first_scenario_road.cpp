@@ -150,8 +150,16 @@ void FirstScenarioRoad::createDivision(const RoadDivision& division) const
     const DivisionDialog dialog(m_run, QStringLiteral("Torvane - Create Division for Force ") + force,
                                 division.forceA, division.number);
     dialog.openShipsOfNewDivision();
-    for (const QString& ship : division.ships) {
-        dialog.pickShip(ship);
+    // By all ways that lead to a ship.
+    for (qsizetype i = 0; i < division.ships.size(); ++i) {
+        const QString& ship = division.ships.at(i);
+        if (i == 1) {
+            dialog.pickShipByClick(ship);
+        } else if (i == 2 && !ship.contains(QLatin1Char(' '))) {
+            dialog.pickShipByTyping(ship);
+        } else {
+            dialog.pickShip(ship);
+        }
     }
     show(QStringLiteral("ships_of_") + division.name());
     dialog.keepShips(static_cast<int>(division.ships.size()));

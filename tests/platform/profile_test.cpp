@@ -233,6 +233,14 @@ TEST(ProfileReading, TheLastLineNeedsNoEnd)
     EXPECT_EQ(valueIn("[A]\nX=1\r", "A", "X"), "1");
 }
 
+TEST(ProfileReading, AFileOfNoBytesTakesKeysAsAMissingOneDoes)
+{
+    for (const QByteArray& file : {QByteArray(), QByteArray("")}) {
+        EXPECT_EQ(written(file, "S", "K", "v"), "[S]\r\nK=v\r\n");
+        EXPECT_EQ(Profile::parse(file).bytes(), "");
+    }
+}
+
 TEST(ProfileReading, AByteOrderMarkIsSkipped)
 {
     EXPECT_EQ(valueIn("\xEF\xBB\xBF[A]\r\nX=1\r\n", "A", "X"), "1");

@@ -1,6 +1,7 @@
 #include "platform/text_files.h"
 
 #include "platform/runtime_error.h"
+#include "support/expect_error.h"
 #include "support/failing_system.h"
 #include "support/printers.h"
 
@@ -44,15 +45,9 @@ protected:
     }
 
     template <typename Call>
-    static void expectError(Call call, RuntimeError::Number number, const QString& named)
+    static void expectError(RuntimeError::Number number, Call call, const QString& named)
     {
-        try {
-            call();
-            ADD_FAILURE() << "no error for " << named.toStdString();
-        } catch (const RuntimeError& error) {
-            EXPECT_EQ(error.number(), number) << error.what();
-            EXPECT_THAT(error.what(), HasSubstr(named.toStdString()));
-        }
+        testing::expectError(number, call, HasSubstr(named.toStdString()));
     }
 
 private:
@@ -97,19 +92,21 @@ TEST_F(ReadWholeFile, TakesFilesLongerThanAnyBuffer)
 
 TEST_F(ReadWholeFile, AMissingFileIsFileNotFound)
 {
-    expectError([this] { readWholeFile(path("none")); }, RuntimeError::FileNotFound, path("none"));
+    expectError(
+        RuntimeError::FileNotFound, [this] { readWholeFile(path("none")); }, path("none"));
 }
 
 TEST_F(ReadWholeFile, AFileUsedAsAFolderIsPathNotFound)
 {
     put("file", "x");
-    expectError([this] { readWholeFile(path("file/below")); }, RuntimeError::PathNotFound,
-                path("file/below"));
+    expectError(
+        RuntimeError::PathNotFound, [this] { readWholeFile(path("file/below")); }, path("file/below"));
 }
 
 TEST_F(ReadWholeFile, AFolderIsAPathAccessError)
 {
-    expectError([this] { readWholeFile(folder()); }, RuntimeError::PathAccessError, folder());
+    expectError(
+        RuntimeError::PathAccessError, [this] { readWholeFile(folder()); }, folder());
 }
 
 TEST_F(ReadWholeFile, AnUnreadableFileIsPermissionDenied)
@@ -117,13 +114,15 @@ TEST_F(ReadWholeFile, AnUnreadableFileIsPermissionDenied)
     put("secret", "x");
     QFile::setPermissions(path("secret"), {});
     const testing::Unprivileged nobody;
-    expectError([this] { readWholeFile(path("secret")); }, RuntimeError::PermissionDenied, path("secret"));
+    expectError(
+        RuntimeError::PermissionDenied, [this] { readWholeFile(path("secret")); }, path("secret"));
 }
 
 TEST_F(ReadWholeFile, APipeDoesNotHoldUpTheProgram)
 {
     ASSERT_EQ(::mkfifo(QFile::encodeName(path("pipe")).constData(), 0600), 0);
-    expectError([this] { readWholeFile(path("pipe")); }, RuntimeError::DeviceIoError, path("pipe"));
+    expectError(
+        RuntimeError::DeviceIoError, [this] { readWholeFile(path("pipe")); }, path("pipe"));
 }
 
 TEST_F(ReadWholeFile, AZeroByteInThePathNamesNoOtherFile)
@@ -178,15 +177,16 @@ TEST_F(WriteWholeFile, ANewFileCanBeReadByTheGameUnderTheUsersOwnMask)
 TEST_F(WriteWholeFile, AFolderOfThatNameIsAPathAccessErrorAndStays)
 {
     ASSERT_TRUE(QDir(folder()).mkdir("taken"));
-    expectError([this] { writeWholeFile(path("taken"), "x"); }, RuntimeError::PathAccessError, path("taken"));
+    expectError(
+        RuntimeError::PathAccessError, [this] { writeWholeFile(path("taken"), "x"); }, path("taken"));
     EXPECT_TRUE(QFileInfo(path("taken")).isDir());
     EXPECT_EQ(names(), QStringList("taken"));
 }
 
 TEST_F(WriteWholeFile, AMissingFolderIsPathNotFound)
 {
-    expectError([this] { writeWholeFile(path("none/file"), "x"); }, RuntimeError::PathNotFound,
-                path("none/file"));
+    expectError(
+        RuntimeError::PathNotFound, [this] { writeWholeFile(path("none/file"), "x"); }, path("none/file"));
 }
 
 TEST_F(WriteWholeFile, AFolderWithoutWritePermissionIsPermissionDenied)
@@ -194,10 +194,10 @@ TEST_F(WriteWholeFile, AFolderWithoutWritePermissionIsPermissionDenied)
     put("file", "old");
     {
         const testing::ReadOnlyFolder readOnly(folder());
-        expectError([this] { writeWholeFile(path("other"), "x"); }, RuntimeError::PermissionDenied,
-                    path("other"));
-        expectError([this] { writeWholeFile(path("file"), "x"); }, RuntimeError::PermissionDenied,
-                    path("file"));
+        expectError(
+            RuntimeError::PermissionDenied, [this] { writeWholeFile(path("other"), "x"); }, path("other"));
+        expectError(
+            RuntimeError::PermissionDenied, [this] { writeWholeFile(path("file"), "x"); }, path("file"));
     }
     EXPECT_EQ(bytesOf("file"), "old");
     EXPECT_EQ(names(), QStringList("file"));
@@ -208,8 +208,9 @@ TEST_F(WriteWholeFile, AFullDiskLeavesTheOldFileAndNoPartOfTheNewOne)
     put("file", "old");
     {
         const testing::FullDisk full(1000);
-        expectError([this] { writeWholeFile(path("file"), QByteArray(5000, 'x')); }, RuntimeError::DiskFull,
-                    path("file"));
+        expectError(
+            RuntimeError::DiskFull, [this] { writeWholeFile(path("file"), QByteArray(5000, 'x')); },
+            path("file"));
     }
     EXPECT_EQ(bytesOf("file"), "old");
     EXPECT_EQ(names(), QStringList("file"));
@@ -230,7 +231,8 @@ TEST_F(WriteWholeFile, AFailureOfTheRenameItselfIsAnErrorAndTheOldFileStays)
     // The name is legal, but the one beside it, seven characters longer, is not.
     const QString name(252, u'n');
     put(name, "old");
-    expectError([&] { writeWholeFile(path(name), "new"); }, RuntimeError::DeviceIoError, path(name));
+    expectError(
+        RuntimeError::DeviceIoError, [&] { writeWholeFile(path(name), "new"); }, path(name));
     EXPECT_EQ(bytesOf(name), "old");
     EXPECT_EQ(names(), QStringList(name));
 }
@@ -258,8 +260,9 @@ TEST_F(WriteScratchFile, OnAFullDiskLeavesTheOldFileAlone)
     put("file", "old");
     {
         const testing::FullDisk full(10);
-        expectError([this] { writeScratchFile(path("file"), QByteArray(100, 'x')); }, RuntimeError::DiskFull,
-                    path("file"));
+        expectError(
+            RuntimeError::DiskFull, [this] { writeScratchFile(path("file"), QByteArray(100, 'x')); },
+            path("file"));
     }
     EXPECT_EQ(bytesOf("file"), "old");
     EXPECT_EQ(names(), QStringList("file"));
@@ -268,17 +271,18 @@ TEST_F(WriteScratchFile, OnAFullDiskLeavesTheOldFileAlone)
 TEST_F(WriteScratchFile, OverAFolderOrInAMissingOneIsAnError)
 {
     QDir(folder()).mkdir("sub");
-    expectError([this] { writeScratchFile(path("sub"), "x"); }, RuntimeError::PathAccessError, path("sub"));
-    expectError([this] { writeScratchFile(path("none/file"), "x"); }, RuntimeError::PathNotFound,
-                path("none/file"));
+    expectError(
+        RuntimeError::PathAccessError, [this] { writeScratchFile(path("sub"), "x"); }, path("sub"));
+    expectError(
+        RuntimeError::PathNotFound, [this] { writeScratchFile(path("none/file"), "x"); }, path("none/file"));
     EXPECT_EQ(names(), QStringList("sub"));
 }
 
 TEST_F(WriteScratchFile, InAReadOnlyFolderIsPermissionDenied)
 {
     const testing::ReadOnlyFolder readOnly(folder());
-    expectError([this] { writeScratchFile(path("file"), "x"); }, RuntimeError::PermissionDenied,
-                path("file"));
+    expectError(
+        RuntimeError::PermissionDenied, [this] { writeScratchFile(path("file"), "x"); }, path("file"));
 }
 
 TEST_F(WriteScratchFile, AZeroByteInThePathNamesNoOtherFile)
@@ -306,7 +310,8 @@ TEST_F(DeleteFile, AMissingFileIsNoError)
 TEST_F(DeleteFile, AFolderIsAnErrorAndStays)
 {
     ASSERT_TRUE(QDir(folder()).mkdir("taken"));
-    expectError([this] { deleteFile(path("taken")); }, RuntimeError::PathAccessError, path("taken"));
+    expectError(
+        RuntimeError::PathAccessError, [this] { deleteFile(path("taken")); }, path("taken"));
     EXPECT_TRUE(QFileInfo(path("taken")).isDir());
 }
 
@@ -315,7 +320,8 @@ TEST_F(DeleteFile, AFolderWithoutWritePermissionIsPermissionDenied)
     put("file", "x");
     {
         const testing::ReadOnlyFolder readOnly(folder());
-        expectError([this] { deleteFile(path("file")); }, RuntimeError::PermissionDenied, path("file"));
+        expectError(
+            RuntimeError::PermissionDenied, [this] { deleteFile(path("file")); }, path("file"));
     }
     EXPECT_EQ(bytesOf("file"), "x");
 }
@@ -352,27 +358,32 @@ TEST_F(RequireWritableFolder, AWritableFolderPassesAndStaysAsItWas)
 
 TEST_F(RequireWritableFolder, AMissingFolderIsPathNotFound)
 {
-    expectError([this] { requireWritableFolder(path("none")); }, RuntimeError::PathNotFound, path("none"));
-    expectError([] { requireWritableFolder(QString()); }, RuntimeError::PathNotFound, QString());
+    expectError(
+        RuntimeError::PathNotFound, [this] { requireWritableFolder(path("none")); }, path("none"));
+    expectError(
+        RuntimeError::PathNotFound, [] { requireWritableFolder(QString()); }, QString());
 }
 
 TEST_F(RequireWritableFolder, AFileInItsPlaceIsPathNotFound)
 {
     put("file", "x");
-    expectError([this] { requireWritableFolder(path("file")); }, RuntimeError::PathNotFound, path("file"));
+    expectError(
+        RuntimeError::PathNotFound, [this] { requireWritableFolder(path("file")); }, path("file"));
 }
 
 TEST_F(RequireWritableFolder, AFolderWithoutWritePermissionIsPermissionDenied)
 {
     const testing::ReadOnlyFolder readOnly(folder());
-    expectError([this] { requireWritableFolder(folder()); }, RuntimeError::PermissionDenied, folder());
+    expectError(
+        RuntimeError::PermissionDenied, [this] { requireWritableFolder(folder()); }, folder());
 }
 
 TEST_F(RequireWritableFolder, AFullDiskShowsAndNothingIsLeftBehind)
 {
     {
         const testing::FullDisk full(0);
-        expectError([this] { requireWritableFolder(folder()); }, RuntimeError::DiskFull, folder());
+        expectError(
+            RuntimeError::DiskFull, [this] { requireWritableFolder(folder()); }, folder());
     }
     EXPECT_EQ(names(), QStringList());
 }
@@ -380,7 +391,8 @@ TEST_F(RequireWritableFolder, AFullDiskShowsAndNothingIsLeftBehind)
 TEST_F(RequireWritableFolder, ADiskWithRoomForAPartOfABlockIsFull)
 {
     const testing::FullDisk full(100);
-    expectError([this] { requireWritableFolder(folder()); }, RuntimeError::DiskFull, folder());
+    expectError(
+        RuntimeError::DiskFull, [this] { requireWritableFolder(folder()); }, folder());
 }
 
 } // namespace

@@ -38,7 +38,8 @@ TEST_F(SelectionFiles, WithoutATrackAPickIsAFileFailureThatLeavesAllAsItWas)
 {
     openWithTwo();
     QFile::remove(files.shipTrack());
-    expectError([this] { pick("RN 3"); }, RuntimeError::FileNotFound, HasSubstr("ShipTrack.bmm"));
+    expectError(
+        RuntimeError::FileNotFound, [this] { pick("RN 3"); }, HasSubstr("ShipTrack.bmm"));
     expectTwo();
 }
 
@@ -46,9 +47,11 @@ TEST_F(SelectionFiles, WithoutATrackRemoveAndClearAreFileFailuresThatLeaveAllAsI
 {
     openWithTwo();
     QFile::remove(files.shipTrack());
-    expectError([this] { remove(0); }, RuntimeError::FileNotFound, HasSubstr("ShipTrack.bmm"));
+    expectError(
+        RuntimeError::FileNotFound, [this] { remove(0); }, HasSubstr("ShipTrack.bmm"));
     expectTwo();
-    expectError([this] { selection.clear(); }, RuntimeError::FileNotFound, HasSubstr("ShipTrack.bmm"));
+    expectError(
+        RuntimeError::FileNotFound, [this] { selection.clear(); }, HasSubstr("ShipTrack.bmm"));
     expectTwo();
     EXPECT_FALSE(QFile::exists(files.shipRemove()));
 }
@@ -114,14 +117,16 @@ TEST_F(SelectionFiles, ADivisionFileOfOtherTextIsReadLineByLine)
 TEST_F(SelectionFiles, ADivisionFileBeyond16BitsIsAnOverflowWithAnEmptyList)
 {
     putBytes(files.divisionFile(Side::Blue, 1), QByteArray("x\n").repeated(32768));
-    expectError([this] { open(); }, RuntimeError::Overflow, _);
+    expectError(
+        RuntimeError::Overflow, [this] { open(); }, _);
     EXPECT_EQ(selection.entries(), QStringList());
 }
 
 TEST_F(SelectionFiles, AFolderInPlaceOfADivisionFileIsAFailureWithAnEmptyList)
 {
     QDir().mkpath(files.divisionFile(Side::Blue, 1));
-    expectError([this] { open(); }, RuntimeError::PathAccessError, HasSubstr("DivisionA1.txt"));
+    expectError(
+        RuntimeError::PathAccessError, [this] { open(); }, HasSubstr("DivisionA1.txt"));
     EXPECT_EQ(selection.entries(), QStringList());
 }
 
@@ -150,11 +155,14 @@ TEST_F(SelectionFiles, WhatCannotBeWrittenLeavesListTrackAndCounts)
     const QStringList filesBefore = QDir(folder()).entryList(all);
     {
         const ReadOnlyFolder readOnly(folder());
-        expectError([this] { remove(0); }, RuntimeError::PermissionDenied, HasSubstr("ShipRemove.bmm"));
-        expectError([this] { selection.clear(); }, RuntimeError::PermissionDenied, _);
-        expectError([this] { selection.keep(); }, RuntimeError::PermissionDenied,
-                    HasSubstr("DivisionA1.txt"));
-        expectError([this] { pick("RN 3"); }, RuntimeError::PermissionDenied, HasSubstr("ShipTrack.bmm"));
+        expectError(
+            RuntimeError::PermissionDenied, [this] { remove(0); }, HasSubstr("ShipRemove.bmm"));
+        expectError(
+            RuntimeError::PermissionDenied, [this] { selection.clear(); }, _);
+        expectError(
+            RuntimeError::PermissionDenied, [this] { selection.keep(); }, HasSubstr("DivisionA1.txt"));
+        expectError(
+            RuntimeError::PermissionDenied, [this] { pick("RN 3"); }, HasSubstr("ShipTrack.bmm"));
     }
     expectTwo();
     EXPECT_EQ(track(), before);
@@ -162,12 +170,71 @@ TEST_F(SelectionFiles, WhatCannotBeWrittenLeavesListTrackAndCounts)
     EXPECT_EQ(pick("RN 3"), std::nullopt);
 }
 
+TEST_F(SelectionFiles, RecordsDeletedOrOfOtherTextBetweenTwoPicksTakeTheNextOne)
+{
+    const struct
+    {
+        const char* what;
+        std::optional<QByteArray> bytes;
+    } states[] = {{"deleted", std::nullopt}, {"empty", ""}, {"other text", "<html>\r\nno [section\r\n"}};
+    useCatalogue(shipsOf("RN", 4));
+    for (const auto& [what, bytes] : states) {
+        setTrack({""});
+        open();
+        pickAll({"RN 1", "RN 2"});
+        QFile::remove(files.iniShipData());
+        if (bytes) {
+            putBytes(files.iniShipData(), *bytes);
+        }
+        EXPECT_EQ(pick("RN 3"), std::nullopt) << what;
+        EXPECT_TRUE(sectionNames(files.iniShipData()).contains("[RN 3]")) << what;
+        EXPECT_EQ(track(), QStringList({"", "RN 1", "RN 2", "RN 3"})) << what;
+    }
+}
+
+TEST_F(SelectionFiles, ADivisionFileDeletedOrOfOtherTextIsWrittenAnewByKeep)
+{
+    files.write(files.divisionFile(Side::Blue, 1), {"DD RN 4"});
+    openWithTwo();
+    QFile::remove(files.divisionFile(Side::Blue, 1));
+    EXPECT_EQ(selection.keep(), std::nullopt);
+    EXPECT_EQ(division(Side::Blue, 1), QStringList({"DD RN 4", "DD RN 1", "DD RN 2"}));
+    putBytes(files.divisionFile(Side::Blue, 1), QByteArray("nonsense\r\n").repeated(50));
+    EXPECT_EQ(selection.keep(), std::nullopt);
+    EXPECT_EQ(division(Side::Blue, 1), QStringList({"DD RN 4", "DD RN 1", "DD RN 2"}));
+}
+
+TEST_F(SelectionFiles, ATrackCutOrOfOtherTextWhileTheListIsOpenTakesPickRemoveAndClear)
+{
+    useCatalogue(shipsOf("RN", 4));
+    for (const QByteArray& bytes : {QByteArray("\"\"\r\n\"RN"), QByteArray("[RN 9]\nkey=value\n")}) {
+        setTrack({""});
+        open();
+        pickAll({"RN 1", "RN 2"});
+        putBytes(files.shipTrack(), bytes);
+        const QStringList before = track();
+        EXPECT_EQ(pick("RN 3"), std::nullopt);
+        EXPECT_EQ(track(), before + QStringList("RN 3"));
+        putBytes(files.shipTrack(), bytes);
+        EXPECT_EQ(remove(0), std::nullopt);
+        EXPECT_EQ(track(), before);
+        EXPECT_EQ(markedNames(browser), QStringList({"RN 2", "RN 3"}));
+        putBytes(files.shipTrack(), bytes);
+        selection.clear();
+        EXPECT_EQ(track(), before);
+        EXPECT_EQ(selection.entries(), QStringList());
+        EXPECT_EQ(selection.blueShipCount(), 0);
+        EXPECT_EQ(markedNames(browser), QStringList());
+    }
+}
+
 TEST_F(SelectionFiles, AShipWhoseClassIsMissingIsNotPicked)
 {
     useCatalogue(shipsOf("RN", 2));
     RawDatabase(catalogueFile()).run("DELETE FROM ShipDaClass");
     open();
-    expectError([this] { pick("RN 1"); }, RuntimeError::NoCurrentRecord, HasSubstr("ShipDaClass"));
+    expectError(
+        RuntimeError::NoCurrentRecord, [this] { pick("RN 1"); }, HasSubstr("ShipDaClass"));
     EXPECT_EQ(selection.entries(), QStringList());
     EXPECT_EQ(selection.blueShipCount(), 0);
     EXPECT_EQ(track(), QStringList({""}));

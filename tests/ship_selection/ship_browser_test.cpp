@@ -193,8 +193,9 @@ TEST_F(Browser, APressOnTheHeadersWithTheCurrentColumnAtTheFirstIsAnIndexFailure
 {
     openFour();
     browser.filterNavy("RN");
-    expectError([this] { browser.pressHeaderRow(ShipColumn::Selected); }, RuntimeError::SubscriptOutOfRange,
-                ::testing::_);
+    expectError(
+        RuntimeError::SubscriptOutOfRange, [this] { browser.pressHeaderRow(ShipColumn::Selected); },
+        ::testing::_);
     EXPECT_EQ(shownNames(browser), QStringList({"RN b", "RN a"}));
 }
 

@@ -80,6 +80,13 @@ TEST_F(Lists, HoldEachShipInItsNavyAndInAllInStoredOrder)
     EXPECT_EQ(names(ships.list(u"")), QStringList({"b", "e", "a", "d", "c"}));
 }
 
+TEST_F(Lists, WalkFromTheFirstRowWhereverTheControlStands)
+{
+    makeCatalogue(shipsOf("RN", 3));
+    catalogue.shipToClass("RN 3");
+    EXPECT_EQ(names(lists().list(u"RN")), QStringList({"RN 1", "RN 2", "RN 3"}));
+}
+
 TEST_F(Lists, HoldTheEightFieldsWithoutSurroundingBlanks)
 {
     makeCatalogue({{" DD ", " Ardent ", " A class ", " RN ", " 142 "}});
@@ -128,23 +135,26 @@ TEST_F(Lists, FailWithOneShipOfANavyMoreThanItsListTakes)
         DataControls controls;
         controls.bind(folder());
         ShipCatalogue tooMany(controls);
-        expectError([&] { ShipLists read(tooMany.ShipDataB()); }, RuntimeError::SubscriptOutOfRange,
-                    AllOf(HasSubstr(std::string("navy ") + navy), HasSubstr(std::to_string(rows))));
+        expectError(
+            RuntimeError::SubscriptOutOfRange, [&] { ShipLists read(tooMany.ShipDataB()); },
+            AllOf(HasSubstr(std::string("navy ") + navy), HasSubstr(std::to_string(rows))));
     }
 }
 
 TEST_F(Lists, FailWithThe425thShipOfTheRoyalNavyAtTheEndOfAFullCatalogue)
 {
     makeCatalogue(fullCatalogue() + QList<TestShip>{{"DD", "One too many"}});
-    expectError([this] { lists(); }, RuntimeError::SubscriptOutOfRange,
-                AllOf(HasSubstr("navy RN"), HasSubstr("424")));
+    expectError(
+        RuntimeError::SubscriptOutOfRange, [this] { lists(); },
+        AllOf(HasSubstr("navy RN"), HasSubstr("424")));
 }
 
 TEST_F(Lists, FailWithMoreShipsThanTheListOfAllTakes)
 {
     makeCatalogue(fullCatalogue() + shipsOf("Other", 1));
-    expectError([this] { lists(); }, RuntimeError::SubscriptOutOfRange,
-                AllOf(HasSubstr("all navies"), HasSubstr("1266")));
+    expectError(
+        RuntimeError::SubscriptOutOfRange, [this] { lists(); },
+        AllOf(HasSubstr("all navies"), HasSubstr("1266")));
 }
 
 TEST_F(Lists, AreEmptyForAnEmptyCatalogue)
@@ -158,13 +168,15 @@ TEST_F(Lists, FailWithTheFieldThatTheCatalogueLacks)
 {
     makeCatalogue({{"DD", "Ardent"}});
     RawDatabase(catalogueFile()).run("ALTER TABLE ShipDataB RENAME COLUMN FloatPts TO Floats");
-    expectError([this] { lists(); }, RuntimeError::DatabaseFailure,
-                AllOf(HasSubstr("FloatPts"), HasSubstr("ShipDataB")));
+    expectError(
+        RuntimeError::DatabaseFailure, [this] { lists(); },
+        AllOf(HasSubstr("FloatPts"), HasSubstr("ShipDataB")));
 }
 
 TEST_F(Lists, FailWithoutACatalogue)
 {
-    expectError([this] { lists(); }, RuntimeError::FileNotFound, HasSubstr("ShipDatabase.mdb"));
+    expectError(
+        RuntimeError::FileNotFound, [this] { lists(); }, HasSubstr("ShipDatabase.mdb"));
 }
 
 TEST_F(Lists, FailWithADamagedCatalogue)
@@ -173,7 +185,8 @@ TEST_F(Lists, FailWithADamagedCatalogue)
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     file.write(QByteArray(5000, 'x'));
     file.close();
-    expectError([this] { lists(); }, RuntimeError::DatabaseFailure, HasSubstr("ShipDatabase.mdb"));
+    expectError(
+        RuntimeError::DatabaseFailure, [this] { lists(); }, HasSubstr("ShipDatabase.mdb"));
 }
 
 TEST_F(Lists, SortTextAscendingByCodePoint)
@@ -212,8 +225,17 @@ TEST_F(Lists, SortWholeRows)
     EXPECT_EQ(first[ShipColumn::ShortName], "short a");
 }
 
+bool isStronger(const TestShip& ship, const TestShip& other)
+{
+    return ship.hitPts.toInt() > other.hitPts.toInt();
+}
+bool hasEarlierType(const TestShip& ship, const TestShip& other)
+{
+    return ship.type < other.type;
+}
+
 /// The exchanges done one by one on whole rows, as an independent statement of the order.
-QStringList shellSortedNames(QList<TestShip> ships)
+QStringList shellSortedNames(QList<TestShip> ships, bool (*goesAhead)(const TestShip&, const TestShip&))
 {
     qsizetype gap = ships.size() / 2;
     while (gap >= 1) {
@@ -221,7 +243,7 @@ QStringList shellSortedNames(QList<TestShip> ships)
         do {
             exchanged = false;
             for (qsizetype i = 1; i <= ships.size() - gap; ++i) {
-                if (ships[i + gap - 1].hitPts.toInt() > ships[i - 1].hitPts.toInt()) {
+                if (goesAhead(ships[i + gap - 1], ships[i - 1])) {
                     ships.swapItemsAt(i - 1, i + gap - 1);
                     exchanged = true;
                 }
@@ -255,7 +277,26 @@ TEST_F(Lists, SortOfAFullListIsThatOfTheExchanges)
     }
     ShipLists read = listsOf(ships);
     read.sortShips(u"RN", ShipColumn::HitPts);
-    EXPECT_EQ(names(read.list(u"RN")), shellSortedNames(ships));
+    EXPECT_EQ(names(read.list(u"RN")), shellSortedNames(ships, isStronger));
+}
+
+TEST_F(Lists, SortByTextLeavesEqualTextsWhereTheGapsBringThem)
+{
+    const char* const types[] = {"TR", "DD", "CL", "CA", "BC", "BB"};
+    QList<TestShip> ships = shipsOf("RN", 424);
+    for (qsizetype i = 0; i < ships.size(); ++i) {
+        ships[i].type = types[i * 37 % 29 % 6];
+    }
+    ShipLists read = listsOf(ships);
+    read.sortShips(u"RN", ShipColumn::Type);
+    const QStringList sorted = names(read.list(u"RN"));
+    EXPECT_EQ(sorted, shellSortedNames(ships, hasEarlierType));
+    std::stable_sort(ships.begin(), ships.end(), hasEarlierType);
+    QStringList stable;
+    for (const TestShip& ship : ships) {
+        stable.append(ship.name);
+    }
+    EXPECT_NE(sorted, stable);
 }
 
 TEST_F(Lists, SortOneListAlone)
@@ -284,15 +325,17 @@ TEST_F(Lists, SortOfAllByTextSortsAllAndByHitPointsTheKriegsmarine)
 TEST_F(Lists, SortByTheFirstColumnIsAnIndexFailure)
 {
     ShipLists ships = listsOf({{"DD", "b"}, {"DD", "a"}});
-    expectError([&] { ships.sortShips(u"RN", ShipColumn::Selected); }, RuntimeError::SubscriptOutOfRange,
-                HasSubstr("column"));
+    expectError(
+        RuntimeError::SubscriptOutOfRange, [&] { ships.sortShips(u"RN", ShipColumn::Selected); },
+        HasSubstr("column"));
     EXPECT_EQ(names(ships.list(u"RN")), QStringList({"b", "a"}));
 }
 
 TEST_F(Lists, StayAsTheyWereWhereANumberHasNoBounds)
 {
     ShipLists ships = listsOf({{"DD", "b", "K", "RN", "1"}, {"DD", "a", "K", "RN", "1E999"}});
-    expectError([&] { ships.sortShips(u"RN", ShipColumn::HitPts); }, RuntimeError::Overflow, ::testing::_);
+    expectError(
+        RuntimeError::Overflow, [&] { ships.sortShips(u"RN", ShipColumn::HitPts); }, ::testing::_);
     EXPECT_EQ(names(ships.list(u"RN")), QStringList({"b", "a"}));
 }
 

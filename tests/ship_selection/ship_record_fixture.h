@@ -3,6 +3,7 @@
 #include "platform/runtime_error.h"
 #include "ship_selection/ship_record.h"
 #include "support/catalogue_file.h"
+#include "support/expect_error.h"
 #include "support/printers.h"
 
 #include <QFile>
@@ -86,18 +87,6 @@ protected:
             keys.append(line.first);
         }
         return keys;
-    }
-
-    template <typename Call, typename Matcher>
-    static void expectError(Call call, RuntimeError::Number number, const Matcher& text)
-    {
-        try {
-            call();
-            ADD_FAILURE() << "no error";
-        } catch (const RuntimeError& error) {
-            EXPECT_EQ(error.number(), number) << error.what();
-            EXPECT_THAT(error.what(), text);
-        }
     }
 
 private:

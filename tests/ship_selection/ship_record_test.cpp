@@ -12,6 +12,7 @@ namespace torvane {
 namespace {
 
 using ::testing::AllOf;
+using testing::expectError;
 using ::testing::HasSubstr;
 
 class ShipRecord : public testing::ShipRecordFixture
@@ -139,8 +140,10 @@ TEST_F(ShipRecord, OfAnUnreadableDivisionFileIsTheErrorOfTheFile)
 {
     makeCatalogue();
     ASSERT_TRUE(QDir().mkdir(files.divisionFile(Side::Blue, 1)));
-    expectError([this] { records.saveindivShipInfoINI(Side::Blue, 1, "DIVISION0", true); },
-                RuntimeError::PathAccessError, HasSubstr("DivisionA1.txt"));
+    expectError(
+        RuntimeError::PathAccessError,
+        [this] { records.saveindivShipInfoINI(Side::Blue, 1, "DIVISION0", true); },
+        HasSubstr("DivisionA1.txt"));
 }
 
 TEST_F(ShipRecord, OfADivisionOfTenIsWrittenForEachInOneFileWrite)
@@ -253,11 +256,12 @@ TEST_F(ShipRecord, OfAnEmptyPlaceReadsInvalidButForNameAndPosition)
 TEST_F(ShipRecord, OfANameThatTheCatalogueLacksEndsBehindTheName)
 {
     makeCatalogue();
-    expectError([this] { records.AddIndividualShip("BB", "Hood", "DIVISION0SHIP0"); },
-                RuntimeError::NoCurrentRecord, AllOf(HasSubstr("Hood"), HasSubstr("ShipDataB")));
+    expectError(
+        RuntimeError::NoCurrentRecord, [this] { records.AddIndividualShip("BB", "Hood", "DIVISION0SHIP0"); },
+        AllOf(HasSubstr("Hood"), HasSubstr("ShipDataB")));
     EXPECT_EQ(bytesOf(profile.path()), "[DIVISION0SHIP0]\r\nNAME=Hood\r\n");
-    expectError([this] { records.writeShipDataRecord("Hood"); }, RuntimeError::NoCurrentRecord,
-                HasSubstr("Hood"));
+    expectError(
+        RuntimeError::NoCurrentRecord, [this] { records.writeShipDataRecord("Hood"); }, HasSubstr("Hood"));
     EXPECT_EQ(linesOf(files.iniShipData(), "HOOD"), (Lines{{"NAME", "Hood"}}));
 }
 
@@ -265,8 +269,9 @@ TEST_F(ShipRecord, OfANameThatTheCatalogueLacksEndsTheDivisionThere)
 {
     makeCatalogue();
     putDivision(Side::Blue, 1, {"CA Exeter", "BB Hood", "CL Ajax"});
-    expectError([this] { records.saveindivShipInfoINI(Side::Blue, 1, "DIVISION0", true); },
-                RuntimeError::NoCurrentRecord, HasSubstr("Hood"));
+    expectError(
+        RuntimeError::NoCurrentRecord,
+        [this] { records.saveindivShipInfoINI(Side::Blue, 1, "DIVISION0", true); }, HasSubstr("Hood"));
     EXPECT_EQ(sectionNames(profile.path()), QStringList({"[DIVISION0SHIP0]", "[DIVISION0SHIP1]"}));
     EXPECT_EQ(linesOf(profile.path(), "DIVISION0SHIP0").size(), 77);
     EXPECT_EQ(linesOf(profile.path(), "DIVISION0SHIP1"), (Lines{{"NAME", "Hood"}}));
@@ -276,8 +281,10 @@ TEST_F(ShipRecord, OfAClassThatTheCatalogueLacksEndsBeforeTheFirstClassField)
 {
     makeCatalogue();
     testing::RawDatabase(catalogueFile()).run("DELETE FROM ShipDaClass WHERE b = 'York'");
-    expectError([this] { records.AddIndividualShip("CA", "Exeter", "DIVISION0SHIP0"); },
-                RuntimeError::NoCurrentRecord, AllOf(HasSubstr("York"), HasSubstr("ShipDaClass")));
+    expectError(
+        RuntimeError::NoCurrentRecord,
+        [this] { records.AddIndividualShip("CA", "Exeter", "DIVISION0SHIP0"); },
+        AllOf(HasSubstr("York"), HasSubstr("ShipDaClass")));
     EXPECT_EQ(keysOf(linesOf(profile.path(), "DIVISION0SHIP0")),
               QStringList({"NAME", "SHORTNAME", "TYPE", "CLASS", "NAVY", "XPOSITION", "YPOSITION",
                            "ZPOSITION", "CREWQUALITY", "CREWFATIGUE", "NIGHTTRAINING", "PREVIOUSCOMBAT"}));
@@ -285,8 +292,9 @@ TEST_F(ShipRecord, OfAClassThatTheCatalogueLacksEndsBeforeTheFirstClassField)
 
 TEST_F(ShipRecord, WithoutACatalogueIsTheErrorOfItsFile)
 {
-    expectError([this] { records.AddIndividualShip("CA", "Exeter", "DIVISION0SHIP0"); },
-                RuntimeError::FileNotFound, HasSubstr("ShipDatabase.mdb"));
+    expectError(
+        RuntimeError::FileNotFound, [this] { records.AddIndividualShip("CA", "Exeter", "DIVISION0SHIP0"); },
+        HasSubstr("ShipDatabase.mdb"));
 }
 
 TEST_F(ShipRecord, OfAnEmptyCatalogueFieldHasTheKeyAndReadsInvalid)

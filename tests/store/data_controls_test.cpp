@@ -1,6 +1,7 @@
 #include "store/data_controls.h"
 
 #include "platform/runtime_error.h"
+#include "support/expect_error.h"
 #include "support/failing_system.h"
 #include "support/printers.h"
 #include "support/raw_database.h"
@@ -69,22 +70,17 @@ protected:
     }
 
     template <typename Call, typename Matcher>
-    void expectError(Call call, RuntimeError::Number number, const Matcher& text) const
+    void expectError(RuntimeError::Number number, Call call, const Matcher& text) const
     {
-        try {
-            call();
-            ADD_FAILURE() << "no error";
-        } catch (const RuntimeError& error) {
-            EXPECT_EQ(error.number(), number) << error.what();
-            EXPECT_THAT(error.what(), AllOf(HasSubstr(path().toStdString()), text));
-        }
+        testing::expectError(number, call, AllOf(HasSubstr(path().toStdString()), text));
     }
 
     template <typename Matcher>
     void expectNotOpened(Database::Access access, RuntimeError::Number number, const Matcher& text) const
     {
         const QStringList before = QSqlDatabase::connectionNames();
-        expectError([&] { const Database database(path(), access); }, number, text);
+        expectError(
+            number, [&] { const Database database(path(), access); }, text);
         EXPECT_EQ(QSqlDatabase::connectionNames(), before);
     }
 
@@ -174,8 +170,9 @@ TEST_F(DatabaseFile, ReadOnlyCannotBeChanged)
 {
     makeDatabase();
     Database database(path(), readOnly);
-    expectError([&] { database.execute("DELETE FROM ShipDataB", "ShipDataB"); },
-                RuntimeError::PermissionDenied, HasSubstr("ShipDataB"));
+    expectError(
+        RuntimeError::PermissionDenied, [&] { database.execute("DELETE FROM ShipDataB", "ShipDataB"); },
+        HasSubstr("ShipDataB"));
     EXPECT_EQ(firstColumn(database, "SELECT Name FROM ShipDataB"), QVariantList{"Exeter"});
 }
 
@@ -257,7 +254,7 @@ TEST_F(DatabaseFile, CutOffIsDamaged)
         Database database(path(), readOnly);
         database.execute("SELECT * FROM ShipDataB", "ShipDataB");
     };
-    expectError(use, RuntimeError::DatabaseFailure, HasSubstr("is damaged. Put a sound copy"));
+    expectError(RuntimeError::DatabaseFailure, use, HasSubstr("is damaged. Put a sound copy"));
 }
 
 TEST_F(DatabaseFile, UnreadableIsPermissionDenied)
@@ -361,9 +358,9 @@ TEST_F(DatabaseFile, AFailedQueryNamesFileTableAndReason)
 {
     makeDatabase();
     Database database(path(), readOnly);
-    expectError([&] { database.execute("SELECT * FROM GunsRang", "GunsRang"); },
-                RuntimeError::DatabaseFailure,
-                AllOf(HasSubstr("table GunsRang"), HasSubstr("no such table")));
+    expectError(
+        RuntimeError::DatabaseFailure, [&] { database.execute("SELECT * FROM GunsRang", "GunsRang"); },
+        AllOf(HasSubstr("table GunsRang"), HasSubstr("no such table")));
 }
 
 TEST_F(DatabaseFile, FailNamesWhatAQueryOfSomeoneElseMet)
@@ -371,11 +368,13 @@ TEST_F(DatabaseFile, FailNamesWhatAQueryOfSomeoneElseMet)
     makeDatabase();
     const Database database(path(), readOnly);
     const QSqlError full("", "database or disk is full", QSqlError::StatementError, "13");
-    expectError([&] { database.fail("ShipDataB", full); }, RuntimeError::DiskFull,
-                AllOf(HasSubstr("ShipDataB"), HasSubstr("disk is full")));
+    expectError(
+        RuntimeError::DiskFull, [&] { database.fail("ShipDataB", full); },
+        AllOf(HasSubstr("ShipDataB"), HasSubstr("disk is full")));
     const QSqlError extended("", "disk I/O error", QSqlError::StatementError, "778");
-    expectError([&] { database.fail("ShipDataB", extended); }, RuntimeError::DeviceIoError,
-                HasSubstr("Check the disk"));
+    expectError(
+        RuntimeError::DeviceIoError, [&] { database.fail("ShipDataB", extended); },
+        HasSubstr("Check the disk"));
 }
 
 TEST_F(DatabaseFile, IsMadeWhereThereIsNone)
@@ -396,8 +395,9 @@ TEST_F(DatabaseFile, ErrorsNameTheFullPath)
 {
     const QString before = QDir::currentPath();
     ASSERT_TRUE(QDir::setCurrent(folder()));
-    expectError([] { const Database database("Ship Database #1%20?.mdb", readOnly); },
-                RuntimeError::FileNotFound, HasSubstr("/"));
+    expectError(
+        RuntimeError::FileNotFound, [] { const Database database("Ship Database #1%20?.mdb", readOnly); },
+        HasSubstr("/"));
     QDir::setCurrent(before);
 }
 

@@ -6,6 +6,7 @@ namespace torvane {
 namespace {
 
 using ::testing::AllOf;
+using testing::expectError;
 using ::testing::HasSubstr;
 
 class LookUp : public testing::RecordSourceFile
@@ -74,8 +75,10 @@ TEST_F(LookUp, ThatFailsIsNamedByTheErrorThatFollows)
     RecordSource ships = source();
     EXPECT_FALSE(ships.findFirst(u"Name", "Hood"));
     const auto text = AllOf(HasSubstr("no Name \"Hood\" in table ShipDataB"), HasSubstr(file()));
-    expectError([&] { ships.value(u"Class"); }, RuntimeError::NoCurrentRecord, text);
-    expectError([&] { ships.MoveNext(); }, RuntimeError::NoCurrentRecord, text);
+    expectError(
+        RuntimeError::NoCurrentRecord, [&] { ships.value(u"Class"); }, text);
+    expectError(
+        RuntimeError::NoCurrentRecord, [&] { ships.MoveNext(); }, text);
 }
 
 TEST_F(LookUp, ThatFailedIsForgottenByTheNextWalk)
@@ -85,11 +88,13 @@ TEST_F(LookUp, ThatFailedIsForgottenByTheNextWalk)
     ships.findFirst(u"Name", "Hood");
     ships.MoveFirst();
     ships.MoveNext();
-    expectError([&] { ships.value(u"Class"); }, RuntimeError::NoCurrentRecord, HasSubstr("no further row"));
+    expectError(
+        RuntimeError::NoCurrentRecord, [&] { ships.value(u"Class"); }, HasSubstr("no further row"));
     ships.findFirst(u"Name", "Hood");
     ships.findFirst(u"Name", "Exeter");
     ships.MoveNext();
-    expectError([&] { ships.value(u"Class"); }, RuntimeError::NoCurrentRecord, HasSubstr("no further row"));
+    expectError(
+        RuntimeError::NoCurrentRecord, [&] { ships.value(u"Class"); }, HasSubstr("no further row"));
 }
 
 TEST_F(LookUp, ByAnUnknownFieldStopsOnTheFirstRowAsAWalkDoes)

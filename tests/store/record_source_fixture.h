@@ -2,6 +2,7 @@
 
 #include "platform/runtime_error.h"
 #include "store/record_source.h"
+#include "support/expect_error.h"
 #include "support/printers.h"
 #include "support/raw_database.h"
 
@@ -43,18 +44,6 @@ protected:
             values.append(source.value(field));
         }
         return values;
-    }
-
-    template <typename Call, typename Matcher>
-    static void expectError(Call call, RuntimeError::Number number, const Matcher& text)
-    {
-        try {
-            call();
-            ADD_FAILURE() << "no error";
-        } catch (const RuntimeError& error) {
-            EXPECT_EQ(error.number(), number) << error.what();
-            EXPECT_THAT(error.what(), text);
-        }
     }
 
     std::string file() const { return path().toStdString(); }

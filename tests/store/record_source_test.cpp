@@ -8,6 +8,7 @@ namespace torvane {
 namespace {
 
 using ::testing::AllOf;
+using testing::expectError;
 using ::testing::HasSubstr;
 
 class Walk : public testing::RecordSourceFile
@@ -66,8 +67,10 @@ TEST_F(Walk, BeyondTheEndIsNoCurrentRecord)
     ships.MoveNext();
     const auto text = AllOf(HasSubstr("no further row in table ShipDataB"), HasSubstr(file()));
     for (int i = 0; i < 2; ++i) {
-        expectError([&] { ships.MoveNext(); }, RuntimeError::NoCurrentRecord, text);
-        expectError([&] { ships.value(u"Name"); }, RuntimeError::NoCurrentRecord, text);
+        expectError(
+            RuntimeError::NoCurrentRecord, [&] { ships.MoveNext(); }, text);
+        expectError(
+            RuntimeError::NoCurrentRecord, [&] { ships.value(u"Name"); }, text);
         EXPECT_TRUE(ships.isEOF());
     }
 }
@@ -81,8 +84,10 @@ TEST_F(Walk, OverAnEmptyTableIsAtItsStartAndAtItsEnd)
         EXPECT_TRUE(ships.isBOF());
         ships.MoveFirst();
     }
-    expectError([&] { ships.MoveNext(); }, RuntimeError::NoCurrentRecord, HasSubstr("ShipDataB"));
-    expectError([&] { ships.value(u"Name"); }, RuntimeError::NoCurrentRecord, HasSubstr("ShipDataB"));
+    expectError(
+        RuntimeError::NoCurrentRecord, [&] { ships.MoveNext(); }, HasSubstr("ShipDataB"));
+    expectError(
+        RuntimeError::NoCurrentRecord, [&] { ships.value(u"Name"); }, HasSubstr("ShipDataB"));
     EXPECT_FALSE(ships.findFirst(u"Name", "Exeter"));
     EXPECT_TRUE(ships.isEOF());
 }
@@ -141,11 +146,14 @@ TEST_F(Fields, OfAnUnknownNameAreRefusedWithTableAndFile)
     RecordSource ships = source();
     const auto text = AllOf(HasSubstr("no field ShortName in its table ShipDataB"), HasSubstr(file()),
                             HasSubstr("sound copy"));
-    expectError([&] { ships.value(u"ShortName"); }, RuntimeError::DatabaseFailure, text);
-    expectError([&] { ships.findFirst(u"ShortName", "Exeter"); }, RuntimeError::DatabaseFailure, text);
+    expectError(
+        RuntimeError::DatabaseFailure, [&] { ships.value(u"ShortName"); }, text);
+    expectError(
+        RuntimeError::DatabaseFailure, [&] { ships.findFirst(u"ShortName", "Exeter"); }, text);
     EXPECT_THROW(ships.value(u""), RuntimeError);
     ships.MoveNext();
-    expectError([&] { ships.value(u"ShortName"); }, RuntimeError::DatabaseFailure, text);
+    expectError(
+        RuntimeError::DatabaseFailure, [&] { ships.value(u"ShortName"); }, text);
 }
 
 struct StoredValue
@@ -178,8 +186,8 @@ INSTANTIATE_TEST_SUITE_P(AllKinds, FieldText,
 
 TEST_F(Opening, OfAMissingFileIsRefused)
 {
-    expectError([this] { source(); }, RuntimeError::FileNotFound,
-                AllOf(HasSubstr(file()), HasSubstr("is missing")));
+    expectError(
+        RuntimeError::FileNotFound, [this] { source(); }, AllOf(HasSubstr(file()), HasSubstr("is missing")));
     EXPECT_FALSE(QFile::exists(path()));
 }
 
@@ -188,15 +196,17 @@ TEST_F(Opening, OfALockedFileIsRefused)
     makeShips("('Exeter', 'York')");
     const testing::RawDatabase other(path());
     other.run("BEGIN EXCLUSIVE");
-    expectError([this] { source(); }, RuntimeError::DatabaseFailure,
-                AllOf(HasSubstr(file()), HasSubstr("in use by another program")));
+    expectError(
+        RuntimeError::DatabaseFailure, [this] { source(); },
+        AllOf(HasSubstr(file()), HasSubstr("in use by another program")));
 }
 
 TEST_F(Opening, OfAMissingTableIsRefusedByName)
 {
     makeShips("('Exeter', 'York')");
-    expectError([this] { source("ShipDaClass"); }, RuntimeError::DatabaseFailure,
-                AllOf(HasSubstr(file()), HasSubstr("has no table ShipDaClass"), HasSubstr("sound copy")));
+    expectError(
+        RuntimeError::DatabaseFailure, [this] { source("ShipDaClass"); },
+        AllOf(HasSubstr(file()), HasSubstr("has no table ShipDaClass"), HasSubstr("sound copy")));
 }
 
 TEST_F(Opening, FindsATableWithoutRegardToCase)
@@ -216,8 +226,9 @@ TEST_F(Opening, OfAFileDamagedInTheMiddleOfTheTableIsRefused)
     ASSERT_TRUE(bytes.seek(bytes.size() / 2));
     ASSERT_EQ(bytes.write(QByteArray(16384, '\xff')), 16384);
     bytes.close();
-    expectError([this] { source(); }, RuntimeError::DatabaseFailure,
-                AllOf(HasSubstr(file()), HasSubstr("table ShipDataB"), HasSubstr("damaged")));
+    expectError(
+        RuntimeError::DatabaseFailure, [this] { source(); },
+        AllOf(HasSubstr(file()), HasSubstr("table ShipDataB"), HasSubstr("damaged")));
 }
 
 TEST_F(Opening, ReadsAllAndLetsGoOfTheFile)

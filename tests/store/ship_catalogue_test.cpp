@@ -2,6 +2,7 @@
 
 #include "platform/runtime_error.h"
 #include "support/catalogue_file.h"
+#include "support/expect_error.h"
 #include "support/printers.h"
 
 #include <QFile>
@@ -17,6 +18,7 @@ namespace {
 
 using ::testing::AllOf;
 using testing::CatalogueFile;
+using testing::expectError;
 using ::testing::HasSubstr;
 
 class Catalogue : public ::testing::Test
@@ -36,18 +38,6 @@ protected:
         file.addClass("York", {{"e", "31"}, {"length", "575"}, {"width", "58"}});
         file.addGunRange("York", "28000");
         file.run("INSERT INTO gunTable VALUES ('8 inch')");
-    }
-
-    template <typename Call, typename Matcher>
-    static void expectError(Call call, RuntimeError::Number number, const Matcher& text)
-    {
-        try {
-            call();
-            ADD_FAILURE() << "no error";
-        } catch (const RuntimeError& error) {
-            EXPECT_EQ(error.number(), number) << error.what();
-            EXPECT_THAT(error.what(), text);
-        }
     }
 
 private:
@@ -70,12 +60,18 @@ TEST_F(Catalogue, HasTheFourControlsOfTheShipDatabase)
 TEST_F(Catalogue, MissingIsReportedAtTheFirstUseOfEachControl)
 {
     const auto text = AllOf(HasSubstr(path().toStdString()), HasSubstr("is missing"));
-    expectError([this] { catalogue.gunTable(); }, RuntimeError::FileNotFound, text);
-    expectError([this] { catalogue.GunsRang(); }, RuntimeError::FileNotFound, text);
-    expectError([this] { catalogue.ShipDataB(); }, RuntimeError::FileNotFound, text);
-    expectError([this] { catalogue.ShipDaClass(); }, RuntimeError::FileNotFound, text);
-    expectError([this] { catalogue.shipToClass("Exeter"); }, RuntimeError::FileNotFound, text);
-    expectError([this] { catalogue.lengthUnits("York"); }, RuntimeError::FileNotFound, text);
+    expectError(
+        RuntimeError::FileNotFound, [this] { catalogue.gunTable(); }, text);
+    expectError(
+        RuntimeError::FileNotFound, [this] { catalogue.GunsRang(); }, text);
+    expectError(
+        RuntimeError::FileNotFound, [this] { catalogue.ShipDataB(); }, text);
+    expectError(
+        RuntimeError::FileNotFound, [this] { catalogue.ShipDaClass(); }, text);
+    expectError(
+        RuntimeError::FileNotFound, [this] { catalogue.shipToClass("Exeter"); }, text);
+    expectError(
+        RuntimeError::FileNotFound, [this] { catalogue.lengthUnits("York"); }, text);
     EXPECT_FALSE(QFile::exists(path()));
 }
 
@@ -91,8 +87,8 @@ TEST_F(Catalogue, OpensAControlWithoutNeedOfTheOthers)
     makeTwoShips();
     testing::RawDatabase(path()).run("DROP TABLE gunTable");
     EXPECT_EQ(catalogue.ShipDataB().value(u"Name"), "Exeter");
-    expectError([this] { catalogue.gunTable(); }, RuntimeError::DatabaseFailure,
-                HasSubstr("no table gunTable"));
+    expectError(
+        RuntimeError::DatabaseFailure, [this] { catalogue.gunTable(); }, HasSubstr("no table gunTable"));
 }
 
 TEST_F(Catalogue, IsReadOnce)
@@ -118,8 +114,9 @@ TEST_F(Catalogue, WithoutTheShipHasNoCurrentRecordAndLeavesTheClass)
 {
     makeTwoShips();
     catalogue.shipToClass("Exeter");
-    expectError([this] { catalogue.shipToClass("Hood"); }, RuntimeError::NoCurrentRecord,
-                AllOf(HasSubstr("Name \"Hood\""), HasSubstr("ShipDataB")));
+    expectError(
+        RuntimeError::NoCurrentRecord, [this] { catalogue.shipToClass("Hood"); },
+        AllOf(HasSubstr("Name \"Hood\""), HasSubstr("ShipDataB")));
     EXPECT_TRUE(catalogue.ShipDataB().isEOF());
     EXPECT_EQ(catalogue.ShipDaClass().value(u"b"), "York");
 }
@@ -131,8 +128,9 @@ TEST_F(Catalogue, WithoutTheClassFailsAtTheNextReadOfAClassField)
     catalogue.shipToClass("Ajax");
     EXPECT_EQ(catalogue.ShipDataB().value(u"Name"), "Ajax");
     EXPECT_TRUE(catalogue.ShipDaClass().isEOF());
-    expectError([this] { catalogue.ShipDaClass().value(u"e"); }, RuntimeError::NoCurrentRecord,
-                AllOf(HasSubstr("b \"Admiral\""), HasSubstr("ShipDaClass")));
+    expectError(
+        RuntimeError::NoCurrentRecord, [this] { catalogue.ShipDaClass().value(u"e"); },
+        AllOf(HasSubstr("b \"Admiral\""), HasSubstr("ShipDaClass")));
 }
 
 TEST_F(Catalogue, ALookUpForAnotherPurposeMovesTheRowUnderTheReader)
@@ -249,8 +247,10 @@ INSTANTIATE_TEST_SUITE_P(Sizes, SizeOnTheMap,
 TEST_F(Catalogue, SizeBeyondAWholeNumberIsAnOverflow)
 {
     CatalogueFile(path()).addClass("A", {{"length", "6442450944"}, {"width", "1E400"}});
-    expectError([this] { catalogue.lengthUnits("A"); }, RuntimeError::Overflow, HasSubstr("2147483648"));
-    expectError([this] { catalogue.widthUnits("A"); }, RuntimeError::Overflow, HasSubstr(""));
+    expectError(
+        RuntimeError::Overflow, [this] { catalogue.lengthUnits("A"); }, HasSubstr("2147483648"));
+    expectError(
+        RuntimeError::Overflow, [this] { catalogue.widthUnits("A"); }, HasSubstr(""));
 }
 
 } // namespace

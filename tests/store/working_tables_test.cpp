@@ -2,6 +2,7 @@
 
 #include "platform/runtime_error.h"
 #include "store/data_controls.h"
+#include "support/expect_error.h"
 #include "support/failing_system.h"
 #include "support/printers.h"
 #include "support/raw_database.h"
@@ -65,15 +66,9 @@ protected:
     }
 
     template <typename Call, typename Matcher>
-    void expectError(Call call, RuntimeError::Number number, const Matcher& text) const
+    void expectError(RuntimeError::Number number, Call call, const Matcher& text) const
     {
-        try {
-            call();
-            ADD_FAILURE() << "no error";
-        } catch (const RuntimeError& error) {
-            EXPECT_EQ(error.number(), number) << error.what();
-            EXPECT_THAT(error.what(), AllOf(HasSubstr(path().toStdString()), text));
-        }
+        testing::expectError(number, call, AllOf(HasSubstr(path().toStdString()), text));
     }
 
 private:
@@ -226,8 +221,9 @@ TEST_F(CreateWorkingTables, TakesAwayTheJournalsOfTheOldFile)
 TEST_F(CreateWorkingTables, AFolderInPlaceOfTheFileIsAnErrorAndStays)
 {
     ASSERT_TRUE(QDir().mkdir(path()));
-    expectError([this] { createWorkingTables(path()); }, RuntimeError::PathAccessError,
-                HasSubstr("ScenarioData.mdb"));
+    expectError(
+        RuntimeError::PathAccessError, [this] { createWorkingTables(path()); },
+        HasSubstr("ScenarioData.mdb"));
     EXPECT_TRUE(QFileInfo(path()).isDir());
 }
 
@@ -236,7 +232,8 @@ TEST_F(CreateWorkingTables, WithoutPermissionIsAnErrorAndTheOldFileStays)
     put("ScenarioData.mdb", "old");
     {
         const testing::ReadOnlyFolder readOnly(folder());
-        expectError([this] { createWorkingTables(path()); }, RuntimeError::PermissionDenied, HasSubstr(""));
+        expectError(
+            RuntimeError::PermissionDenied, [this] { createWorkingTables(path()); }, HasSubstr(""));
     }
     EXPECT_EQ(QFile(path()).size(), 3);
     EXPECT_EQ(names(), QStringList{"ScenarioData.mdb"});
@@ -306,8 +303,9 @@ TEST_F(EmptyDBase, IfOneTableFailsNoneIsEmptied)
     fillTables();
     testing::RawDatabase(path()).run("CREATE TRIGGER Refuse BEFORE DELETE ON EditShipData BEGIN "
                                      "SELECT RAISE(ABORT, 'refused'); END");
-    expectError([this] { emptyDBase(path()); }, RuntimeError::DatabaseFailure,
-                AllOf(HasSubstr("table EditShipData"), HasSubstr("refused")));
+    expectError(
+        RuntimeError::DatabaseFailure, [this] { emptyDBase(path()); },
+        AllOf(HasSubstr("table EditShipData"), HasSubstr("refused")));
     for (const QString& table : allTables) {
         EXPECT_EQ(rows(table), 2) << table.toStdString();
     }
@@ -318,13 +316,15 @@ TEST_F(EmptyDBase, AMissingTableIsAnErrorThatNamesItAndNoneIsEmptied)
     createWorkingTables(path());
     fillTables();
     testing::RawDatabase(path()).run("DROP TABLE SaveData");
-    expectError([this] { emptyDBase(path()); }, RuntimeError::DatabaseFailure, HasSubstr("table SaveData"));
+    expectError(
+        RuntimeError::DatabaseFailure, [this] { emptyDBase(path()); }, HasSubstr("table SaveData"));
     EXPECT_EQ(rows("ScenarioData"), 2);
 }
 
 TEST_F(EmptyDBase, AMissingFileIsAnErrorAndIsNotMade)
 {
-    expectError([this] { emptyDBase(path()); }, RuntimeError::FileNotFound, HasSubstr("is missing"));
+    expectError(
+        RuntimeError::FileNotFound, [this] { emptyDBase(path()); }, HasSubstr("is missing"));
     EXPECT_EQ(names(), QStringList{});
 }
 
@@ -335,8 +335,9 @@ TEST_F(EmptyDBase, AFileInUseIsAnErrorAndKeepsItsRows)
     {
         const testing::RawDatabase raw(path());
         raw.run("BEGIN IMMEDIATE");
-        expectError([this] { emptyDBase(path()); }, RuntimeError::DatabaseFailure,
-                    HasSubstr("in use by another program"));
+        expectError(
+            RuntimeError::DatabaseFailure, [this] { emptyDBase(path()); },
+            HasSubstr("in use by another program"));
     }
     EXPECT_EQ(rows("ScenarioData"), 2);
 }

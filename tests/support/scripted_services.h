@@ -36,11 +36,16 @@ public:
                                const QString& defaultText) override
     {
         asked.append({title, prompt, defaultText});
+        if (onAsk) {
+            onAsk();
+        }
         return answer;
     }
 
     QList<QStringList> asked;
     std::optional<QString> answer;
+    /// Runs while the box is open, as the events of a real box would.
+    std::function<void()> onAsk;
 };
 
 class ScriptedFileBoxes : public FileBoxes

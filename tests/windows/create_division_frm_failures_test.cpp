@@ -53,6 +53,23 @@ protected:
         expectClosed();
     }
 
+    /// Nothing but Cancel and the close box can be used, and what is pressed all the same stores nothing.
+    void expectOnlyCancel()
+    {
+        const QByteArray divData = workBytes(QStringLiteral("DivDataA1.txt"));
+        for (const char* name : {"CmdAdd", "CmdFlagShip", "CmdEditShip", "CmdNewDivision", "cmdDivDataChng",
+                                 "CmdSaveData", "cmdOK", "TxtHeading", "optEncumYES"}) {
+            EXPECT_FALSE(isEnabled(name)) << name;
+            click(control<QWidget>(dialog(), QLatin1StringView(name)));
+        }
+        EXPECT_TRUE(isEnabled("CmdEditCancel"));
+        EXPECT_TRUE(push("CmdEditCancel")->isDefault());
+        EXPECT_TRUE(dialog().isVisible());
+        EXPECT_EQ(editor().forms().front(), &dialog());
+        EXPECT_EQ(workBytes(QStringLiteral("DivDataA1.txt")), divData);
+        EXPECT_EQ(profile(), m_before);
+    }
+
     QByteArray m_before;
 };
 
@@ -167,10 +184,12 @@ TEST_F(DivisionFailures, AnEditThatCannotBeLoadedCanBeLeft)
         makeFolder(name);
         edit(Side::Blue, 1);
         expectOneError(name);
-        expectEnabled(false, {"cmdOK"});
         EXPECT_FALSE(control<QWidget>(dialog(), QStringLiteral("PicMask"))->isVisible());
+        expectOnlyCancel();
         QDir().rmdir(workFile(QLatin1StringView(name)));
         expectWholeAndLeavable();
+        edit(Side::Blue, 1);
+        expectEnabled(true, {"CmdAdd", "CmdFlagShip", "cmdDivDataChng"});
     }
 }
 
@@ -270,7 +289,7 @@ TEST_F(DivisionFailures, AListLongerThanAnyDivisionIsASubscriptOutOfRange)
     putWorkFile(QStringLiteral("DivisionA1.txt"), QByteArray("\"DD Cossack\"\r\n").repeated(100000));
     edit(Side::Blue, 1);
     expectOneError("100000");
-    expectEnabled(false, {"cmdOK"});
+    expectOnlyCancel();
     expectWholeAndLeavable();
 }
 
@@ -315,7 +334,7 @@ TEST_F(DivisionFailures, APositionBeyondItsBitsIsAnOverflowAndTheEditCanBeLeft)
     boxes().clear();
     edit(Side::Blue, 1);
     expectOneError("99999999999");
-    expectEnabled(false, {"cmdOK"});
+    expectOnlyCancel();
     // The map has its own say on it as soon as the dialog is left.
     put("DIVISION0SHIP0", "XPOSITION", QStringLiteral("0"));
     m_before = profile();

@@ -55,28 +55,11 @@ TEST_F(DivisionLeaving, ASavedNewDivisionStandsInTheProfileWithItsShips)
 TEST_F(DivisionLeaving, ADivisionOfShipsPickedInTheShipDialogIsMadeAndEdited)
 {
     openScenario(Language::German);
-    const auto pickShip = [this](const char* name) {
-        auto* ships = control<QTableView>(editor().shipDBaseFrm(), QStringLiteral("Grid1"));
-        for (int row = 0; row < ships->model()->rowCount(); ++row) {
-            const QModelIndex index = ships->model()->index(row, 2);
-            if (index.data().toString() == QLatin1StringView(name)) {
-                ships->scrollTo(index);
-                QTest::mouseClick(ships->viewport(), Qt::LeftButton, {}, ships->visualRect(index).center());
-                settle();
-                return;
-            }
-        }
-        ADD_FAILURE() << name;
-    };
-    const auto keep = [this] {
-        click(control<QPushButton>(editor().shipDBaseFrm(), QStringLiteral("CmdKeepShips")));
-        EXPECT_EQ(editor().forms().front(), &dialog());
-    };
     create(Side::Red); // of the Royal Navy, unless the overview says otherwise
     click(push("CmdAdd"));
     pickShip("Cossack");
     pickShip("Hood");
-    keep();
+    keepPicked();
     EXPECT_EQ(cell(0, 0), QStringLiteral("DD Cossack"));
     EXPECT_EQ(cell(1, 0), QStringLiteral("BB Hood"));
     EXPECT_EQ(flagRows(), QList<int>{0});
@@ -87,7 +70,7 @@ TEST_F(DivisionLeaving, ADivisionOfShipsPickedInTheShipDialogIsMadeAndEdited)
     edit(Side::Red, 1);
     click(push("CmdAdd"));
     pickShip("Maori");
-    keep();
+    keepPicked();
     EXPECT_EQ(caption("lblShips"), QStringLiteral("Schiffe: 3 von 10"));
     save();
     EXPECT_TRUE(boxes().isEmpty());
@@ -301,90 +284,6 @@ TEST_F(DivisionLeaving, TheCloseBoxDoesNothingBeforeTheDialogHasReadItsStateAndW
     closeShips();
     closeBox(&dialog());
     EXPECT_EQ(records().blueDivCount(), 1);
-}
-
-class Flagship : public DivisionDialogs
-{
-};
-
-TEST_F(Flagship, IsTheFirstShipUntilAnotherIsPicked)
-{
-    openScenario();
-    create(Side::Blue);
-    keepShips(destroyers());
-    EXPECT_EQ(flagRows(), QList<int>{0});
-    click(push("CmdFlagShip"));
-    EXPECT_TRUE(grid()->isEnabled());
-    EXPECT_EQ(caption("lblShips"), QStringLiteral("Click the new flagship"));
-    clickRow(2);
-    EXPECT_EQ(flagRows(), QList<int>{2});
-    EXPECT_FALSE(grid()->isEnabled()) << "one click";
-    clickRow(1);
-    EXPECT_EQ(flagRows(), QList<int>{2});
-    EXPECT_EQ(key("DIVISION0", "FLAGSHIPINDEX"), invalidValue) << "nothing is stored yet";
-    save();
-    EXPECT_EQ(key("DIVISION0", "FLAGSHIPINDEX"), QStringLiteral("2"));
-}
-
-TEST_F(Flagship, CannotBeAnEmptyRow)
-{
-    openScenario();
-    create(Side::Blue);
-    keepShips(destroyers());
-    click(push("CmdFlagShip"));
-    clickRow(7);
-    EXPECT_EQ(flagRows(), QList<int>{0});
-    EXPECT_TRUE(grid()->isEnabled()) << "still awaited";
-    clickRow(1);
-    EXPECT_EQ(flagRows(), QList<int>{1});
-}
-
-TEST_F(Flagship, OfAnEditedDivisionIsStoredAtOnceAndTheListStaysOpen)
-{
-    openScenario();
-    make(Side::Red, {"DD Zulu"});
-    make(Side::Blue, destroyers());
-    edit(Side::Blue, 1);
-    click(push("CmdFlagShip"));
-    clickRow(1);
-    EXPECT_EQ(key("DIVISION1", "FLAGSHIPINDEX"), QStringLiteral("1"));
-    EXPECT_TRUE(grid()->isEnabled());
-    clickRow(2);
-    EXPECT_EQ(key("DIVISION1", "FLAGSHIPINDEX"), QStringLiteral("2"));
-    EXPECT_EQ(key("DIVISION0", "FLAGSHIPINDEX"), QStringLiteral("0"));
-    click(push("CmdEditCancel"));
-    EXPECT_EQ(key("DIVISION1", "FLAGSHIPINDEX"), QStringLiteral("2")) << "a cancel does not take it back";
-    create(Side::Blue);
-    EXPECT_FALSE(grid()->isEnabled());
-}
-
-TEST_F(Flagship, OfADivisionThatTheProfileLacksClosesTheList)
-{
-    openScenario();
-    make(Side::Blue, destroyers());
-    edit(Side::Blue, 1);
-    put("DIVISION0", "DIVISIONNAME", QStringLiteral("Another"));
-    click(push("CmdFlagShip"));
-    clickRow(1);
-    EXPECT_FALSE(grid()->isEnabled());
-    EXPECT_EQ(key("DIVISION0", "FLAGSHIPINDEX"), QStringLiteral("0"));
-}
-
-TEST_F(Flagship, IsPickedByTheKeyboardToo)
-{
-    openScenario();
-    create(Side::Blue);
-    keepShips(destroyers());
-    click(push("CmdFlagShip"));
-    EXPECT_EQ(dialog().focusWidget(), grid());
-    press(grid(), Qt::Key_Down);
-    press(grid(), Qt::Key_Return);
-    EXPECT_EQ(flagRows(), QList<int>{1});
-    click(push("CmdFlagShip"));
-    press(grid(), Qt::Key_Down);
-    press(grid(), Qt::Key_Space);
-    EXPECT_EQ(flagRows(), QList<int>{2});
-    EXPECT_TRUE(dialog().isVisible());
 }
 
 } // namespace

@@ -12,6 +12,7 @@
 
 #include <QAction>
 #include <QRadioButton>
+#include <QTableView>
 #include <QTableWidget>
 
 namespace torvane::testing {
@@ -109,6 +110,26 @@ protected:
         records().writeDivData(vars);
         dialog().takeShips(lines, dialog().divisionCaption());
         closeShips();
+    }
+    /// A click on a ship in the ship dialog.
+    void pickShip(const QString& name)
+    {
+        auto* ships = control<QTableView>(editor().shipDBaseFrm(), QStringLiteral("Grid1"));
+        for (int row = 0; row < ships->model()->rowCount(); ++row) {
+            const QModelIndex index = ships->model()->index(row, 2);
+            if (index.data().toString() == name) {
+                ships->scrollTo(index);
+                QTest::mouseClick(ships->viewport(), Qt::LeftButton, {}, ships->visualRect(index).center());
+                settle();
+                return;
+            }
+        }
+        ADD_FAILURE() << name.toStdString();
+    }
+    void keepPicked()
+    {
+        click(control<QPushButton>(editor().shipDBaseFrm(), QStringLiteral("CmdKeepShips")));
+        EXPECT_EQ(editor().forms().front(), &dialog());
     }
     void closeShips()
     {

@@ -80,6 +80,49 @@ TEST_F(Load, ShowsAnEntryForEachDivisionOfASide)
     EXPECT_EQ(editor().divisionRecords().redDivCount(), 3);
 }
 
+TEST_F(Load, CountsTheDivisionsOfForceBWithoutAnyOfForceA)
+{
+    for (const bool dialogWasThere : {false, true}) {
+        startPastSplash(Language::English);
+        if (dialogWasThere) {
+            editor().createDivisionFrm();
+        }
+        load(data({"TITLE=x"}) + "[SCENARIOINFO]\r\nDIVISIONCNT=2\r\n" + division(0, "Red", "Z 1") +
+             division(1, "Red", "Z 2"));
+        saveOverview();
+        ASSERT_TRUE(chooseMenu(main(), QStringLiteral("mnuCreateForceA")));
+        EXPECT_EQ(editor().divisionRecords().blueDivCount(), 1);
+        EXPECT_EQ(editor().divisionRecords().redDivCount(), 2);
+        closeBox(&editor().createDivisionFrm());
+        ASSERT_TRUE(chooseMenu(main(), QStringLiteral("mnuForceB2")));
+        click(control<QPushButton>(editor().createDivisionFrm(), QStringLiteral("CmdEditCancel")));
+        editor().divisionRecords().writeDivisionCount(QStringLiteral("0"));
+        EXPECT_EQ(editor().workingProfile().GetIniKey(u"SCENARIOINFO", u"DIVISIONCNT"), QStringLiteral("2"));
+    }
+}
+
+// The marks of first divisions live on through a load. Kept, and told in the guide with its way round.
+TEST_F(Load, AfterNewIsForgottenByTheCountsUntilItIsRepeatedBehindACancelledDivisionOfEachForce)
+{
+    startPastSplash(Language::English);
+    ASSERT_TRUE(chooseMenu(main(), QStringLiteral("mnuNew")));
+    saveOverview();
+    load(narvik());
+    saveOverview();
+    EXPECT_EQ(editor().divisionRecords().blueDivCount(), 1);
+    for (const char* command : {"mnuCreateForceA", "mnuCreateForceB"}) {
+        ASSERT_TRUE(chooseMenu(main(), QLatin1StringView(command)));
+        EXPECT_EQ(editor().divisionRecords().blueDivCount() + editor().divisionRecords().redDivCount(), 1);
+        closeBox(&editor().createDivisionFrm());
+    }
+    EXPECT_EQ(newFlags(), (QList<int>{0, 0, 0}));
+    load(narvik());
+    saveOverview();
+    ASSERT_TRUE(chooseMenu(main(), QStringLiteral("mnuCreateForceA")));
+    EXPECT_EQ(editor().divisionRecords().blueDivCount(), 2);
+    EXPECT_EQ(editor().divisionRecords().redDivCount(), 1);
+}
+
 TEST_F(Load, OfASeventhDivisionOnASideHasAFileButNoEntry)
 {
     startPastSplash(Language::English);

@@ -87,6 +87,24 @@ TEST_F(ShipFailures, AnEmptyCatalogueShowsNoShips)
     expectUsable();
 }
 
+TEST_F(ShipFailures, ASortThatFailsLeavesAGridToPickFrom)
+{
+    openOver([this] {
+        putCatalogue({{"DD", "Ardent", "K2", "RN", "3"},
+                      {"DD", "Fury", "K2", "RN", "1E999"},
+                      {"DD", "Jackal", "K2", "RN", "2"}});
+    });
+    clickShip("Ardent");
+    click(shipButton("CmdSortSrch"));
+    choose("OptNavy");
+    expectError("Overflow");
+    EXPECT_EQ(names(), QStringList({"Ardent", "Fury", "Jackal"}));
+    EXPECT_EQ(marked(), QStringList("Ardent"));
+    clickShip("Jackal");
+    EXPECT_EQ(listed(), QStringList({"DD Ardent", "DD Jackal"}));
+    expectUsable();
+}
+
 TEST_F(ShipFailures, The425thShipOfTheRoyalNavyFailsTheLoad)
 {
     openOver([this] { putCatalogue(royalNavy(425)); });
