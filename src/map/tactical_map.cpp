@@ -64,24 +64,7 @@ void TacticalMap::redrawMap()
     layer([&] { drawSeparationRings(picture.marks); });
     drawMarks(m_surface.map(), picture.marks);
     m_editor.mainFrm().menu().showEditShips(picture.ships);
-    tellOnce(errors);
-}
-
-// A scenario that can't be drawn stays so from redraw to redraw: it is told when it is new. The texts name
-// what is wrong as the scenario has it, so they stay the same however the view was scrolled or zoomed.
-void TacticalMap::tellOnce(const std::vector<RuntimeError>& errors)
-{
-    QStringList texts;
-    std::vector<RuntimeError> fresh;
-    for (const RuntimeError& error : errors) {
-        if (!texts.contains(error.text()) && !m_toldErrors.contains(error.text())) {
-            fresh.push_back(error);
-        }
-        texts.append(error.text());
-    }
-    // Before the first box: the map may be drawn while it shows.
-    m_toldErrors = texts;
-    for (const RuntimeError& error : fresh) {
+    for (const RuntimeError& error : m_toldErrors.fresh(errors)) {
         m_editor.report(error);
     }
 }
@@ -196,7 +179,6 @@ void TacticalMap::resized(WindowState state, QSize window, QSize inner)
     redrawMap();
 }
 
-// A drag beyond the end of 16 bits fails at each of its events.
 bool TacticalMap::succeeds(const std::function<void()>& work, std::optional<RuntimeError>& failure)
 {
     try {
@@ -210,27 +192,27 @@ bool TacticalMap::succeeds(const std::function<void()>& work, std::optional<Runt
     return !failure;
 }
 
+// A drag beyond the end of 16 bits fails at each of its events; the first step back leads back.
 void TacticalMap::scrolledHorizontally(int value, ScrollEvent event, WindowState state)
 {
     ViewState& view = m_state.view;
-    if (succeeds([&] { scrollHorizontally(view, value, event, state); }, m_hScrollFailure)) {
-        m_surface.showHorizontalValue(value);
-        redrawMap();
-    } else {
-        // The first step back leads back.
+    if (!succeeds([&] { scrollHorizontally(view, value, event, state); }, m_hScrollFailure)) {
         view.lastHScrollValue = value;
+        return;
     }
+    m_surface.showHorizontalValue(value);
+    redrawMap();
 }
 
 void TacticalMap::scrolledVertically(int value, ScrollEvent event, WindowState state)
 {
     ViewState& view = m_state.view;
-    if (succeeds([&] { scrollVertically(view, value, event, state); }, m_vScrollFailure)) {
-        m_surface.showVerticalValue(value);
-        redrawMap();
-    } else {
+    if (!succeeds([&] { scrollVertically(view, value, event, state); }, m_vScrollFailure)) {
         view.lastVScrollValue = value;
+        return;
     }
+    m_surface.showVerticalValue(value);
+    redrawMap();
 }
 
 void TacticalMap::setBackColor()

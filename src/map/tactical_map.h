@@ -3,13 +3,13 @@
 #include "map/map_interaction.h"
 #include "map/map_plotting.h"
 #include "map/range_rings.h"
+#include "map/told_errors.h"
 #include "map/view_tools.h"
 #include "platform/pointer.h"
 #include "platform/runtime_error.h"
 
 #include <QPointF>
 #include <QString>
-#include <QStringList>
 
 #include <functional>
 #include <optional>
@@ -85,7 +85,6 @@ private:
     RingConditions ringConditions() const;
     void drawTargetArea(MarkList& marks);
     void drawSeparationRings(MarkList& marks);
-    void tellOnce(const std::vector<RuntimeError>& errors);
     bool succeeds(const std::function<void()>& work, std::optional<RuntimeError>& failure);
     void saveDivPosition();
     void placeDivision();
@@ -97,7 +96,7 @@ private:
     MapState m_state;
     MeasureTool m_measure;
     QString m_repositionKey;
-    QStringList m_toldErrors;                     ///< of the last redraw
+    ToldErrors m_toldErrors;
     std::optional<RuntimeError> m_moveFailure;    ///< of the last move of the pointer
     std::optional<RuntimeError> m_hScrollFailure; ///< of the last event of each bar
     std::optional<RuntimeError> m_vScrollFailure;

@@ -270,10 +270,9 @@ TEST_F(FarShip, IsToldOnceHoweverTheMapIsScrolledAndZoomed)
     addDivision(1, "Red", 1, 1);
     placeShip("3000000");
     ASSERT_EQ(boxes().size(), 1);
-    EXPECT_EQ(
-        boxes().first().text,
-        QStringLiteral(
-            "Overflow: XPOSITION 3000000, ZPOSITION 0.000000 of DIVISION1SHIP0 (S10) is out of range."));
+    EXPECT_TRUE(boxes().first().text.endsWith(QStringLiteral(
+        "Overflow: XPOSITION 3000000, ZPOSITION 0.000000 of DIVISION1SHIP0 (S10) is out of range.")))
+        << boxes().first().text.toStdString();
     EXPECT_EQ(pixel(316, 190), QColor(Qt::blue)) << "the ships before it are drawn";
     scrollAndZoom();
     EXPECT_EQ(boxes().size(), 1);
@@ -317,7 +316,9 @@ TEST_F(FarShip, OrAPointerFarOffAtTheLevelShownIsToldOnce)
     movePointer({600, 100});
     chooseZoom("optZoomLevel0");
     ASSERT_EQ(boxes().size(), 1);
-    EXPECT_EQ(boxes().first().text, QStringLiteral("Overflow: position 576000 X 96000 is out of range."));
+    EXPECT_TRUE(
+        boxes().first().text.endsWith(QStringLiteral("Overflow: position 576000 X 96000 is out of range.")))
+        << boxes().first().text.toStdString();
     press(bar("HScroll1"), Qt::Key_Right);
     setValue(main().chkDayNight, 0);
     returnFromDialog();
