@@ -25,8 +25,19 @@ namespace {
 constexpr QSize lockSize(18, 18);
 const QColor lockedLine(150, 150, 150);
 const QColor openLine(31, 154, 86);
-const QColor openInk(15, 107, 58);
-const QColor lockedInk(72, 72, 72);
+/// Inks on the light windows of one desktop and on the dark ones of another.
+struct Ink
+{
+    QColor onLight;
+    QColor onDark;
+
+    QColor on(const QPalette& palette) const
+    {
+        return palette.color(QPalette::Window).lightness() < 128 ? onDark : onLight;
+    }
+};
+const Ink openInk{QColor(15, 107, 58), QColor(120, 220, 160)};
+const Ink lockedInk{QColor(72, 72, 72), QColor(190, 190, 190)};
 const QColor bowColor(255, 255, 255);
 constexpr int bowSide = 4;
 
@@ -46,7 +57,7 @@ void CreateDivisionFrm::keepLockedReadable()
     for (QWidget* control : controls) {
         QPalette colors = control->palette();
         for (const QPalette::ColorRole role : {QPalette::Text, QPalette::ButtonText, QPalette::WindowText}) {
-            colors.setColor(QPalette::Disabled, role, lockedInk);
+            colors.setColor(QPalette::Disabled, role, lockedInk.on(palette()));
         }
         control->setPalette(colors);
     }
@@ -119,7 +130,7 @@ void CreateDivisionFrm::showLock(bool open)
         divisionText(open ? DivisionText::SettingsOpen : DivisionText::SettingsLocked, m_editor.language()));
     QPalette ink = m_ui->fraSettings->palette();
     if (open) {
-        ink.setColor(QPalette::WindowText, openInk);
+        ink.setColor(QPalette::WindowText, openInk.on(palette()));
     }
     m_ui->lblLock->setPalette(ink);
     m_ui->cmdDivDataChng->setVisible(!open);

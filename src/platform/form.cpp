@@ -59,7 +59,10 @@ void Form::hideForm()
 void Form::placeAbove(const Form& opener)
 {
     create();
-    adjustSize();
+    // Not `adjustSize`, which takes two thirds of the screen at most and would cut off the last columns of a
+    // list.
+    ensurePolished();
+    resize(sizeHint().boundedTo(opener.screen()->availableSize()).expandedTo(minimumSizeHint()));
     const QRect over = opener.frameGeometry();
     const QRect screen = opener.screen()->availableGeometry();
     QRect place = rect();

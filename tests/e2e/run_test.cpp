@@ -130,6 +130,8 @@ TEST_F(RealRun, ASecondEditorInTheSameFolderSaysSoAndEnds)
     start(english);
     desktop.press({QStringLiteral("alt+f"), QStringLiteral("n")});
     ASSERT_TRUE(desktop.isActive(QStringLiteral("Torvane - Overview of the Scenario")));
+    // Written behind the command that shows the overview.
+    ASSERT_TRUE(eventually([&] { return folder.workNames().contains(QStringLiteral("iniTemp.bmm")); }));
     const QStringList before = folder.workNames();
     auto second = folder.start(german, desktop);
     ASSERT_TRUE(desktop.hasWindow(germanTitle));

@@ -2,6 +2,9 @@
 #include "support/shown_captions.h"
 #include "windows/division_fixture.h"
 
+#include <QApplication>
+#include <QScopeGuard>
+
 namespace torvane::testing {
 namespace {
 
@@ -15,6 +18,22 @@ TEST_F(DivisionWindow, HasItsCaptionsInBothLanguages)
         startPastSplash(language);
         expectCaptions(dialog(), divisionCaptions, language);
     }
+}
+
+TEST_F(DivisionWindow, LockedAndOpenSettingsStayReadableOnADarkDesktop)
+{
+    const QPalette usual = QApplication::palette();
+    const auto back = qScopeGuard([&usual] { QApplication::setPalette(usual); });
+    QApplication::setPalette(QPalette(QColor(60, 60, 60), QColor(45, 45, 45)));
+    openScenario();
+    choose("mnuCreateForceA");
+    const int ground = dialog().palette().color(QPalette::Window).lightness();
+    ASSERT_LT(ground, 128);
+    const QPalette field = choices("CmbFormation")->palette();
+    EXPECT_GT(field.color(QPalette::Disabled, QPalette::Text).lightness(), ground + 100);
+    click(push("cmdDivDataChng"));
+    const QPalette state = control<QLabel>(dialog(), QStringLiteral("lblLock"))->palette();
+    EXPECT_GT(state.color(QPalette::WindowText).lightness(), ground + 100);
 }
 
 TEST_F(DivisionWindow, ListsFormationsAndSpacings)

@@ -4,6 +4,7 @@
 #include "support/shown_captions.h"
 
 #include <QHeaderView>
+#include <QScreen>
 #include <QScrollBar>
 
 namespace torvane::testing {
@@ -61,6 +62,15 @@ TEST_F(ShipBrowserWindow, TheHeadersStandOverColumnsNoNarrowerThanTheDesigns)
             }
         }
     }
+}
+
+TEST_F(ShipBrowserWindow, OpensWithAllColumnsInSightWhereTheScreenHasTheRoom)
+{
+    openShips(Language::German);
+    const int whole = ships().sizeHint().width();
+    const int room = ships().screen()->availableSize().width();
+    EXPECT_EQ(ships().width(), std::max(ships().minimumSizeHint().width(), std::min(whole, room)));
+    EXPECT_GE(ships().width(), std::min(whole, room));
 }
 
 TEST_F(ShipBrowserWindow, OpensWithTheNavyOfTheForce)
