@@ -93,10 +93,7 @@ TEST_F(BadShipData, ANumberBeyondAllNumbersIsOneErrorThatNamesItAndSavesOverNoSh
 
 TEST_F(BadShipData, ANumberBeyondAllNumbersAtASaveWritesNothing)
 {
-    startPastSplash(Language::English);
-    putShip(u"Exeter"_s);
-    store("CURRENTFIRECOUNT", "1E999");
-    open(u"CA Exeter"_s);
+    openExeterWith("CURRENTFIRECOUNT", "1E999");
     EXPECT_TRUE(boxes().isEmpty());
     const QByteArray before = profile();
     save();

@@ -105,6 +105,14 @@ protected:
         putShip(QStringLiteral("Exeter"));
         open(QStringLiteral("CA Exeter"));
     }
+    /// The Exeter with another value of one key.
+    void openExeterWith(const char* key, const char* value)
+    {
+        startPastSplash(Language::English);
+        putShip(QStringLiteral("Exeter"));
+        store(key, value);
+        open(QStringLiteral("CA Exeter"));
+    }
     /// The captions of the dialog in both languages.
     void expectShown(std::span<const CaptionRow> captions)
     {

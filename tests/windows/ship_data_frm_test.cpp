@@ -177,10 +177,7 @@ TEST_F(ShipDataWindow, SavesTheHullAsAShareOfTheClass)
 
 TEST_F(ShipDataWindow, HalfOf75FloatPointsAreStoredAs37Point5)
 {
-    startPastSplash(Language::English);
-    putShip(u"Exeter"_s);
-    store("CURRENTFLOATPOINTS", "38.25");
-    open(u"CA Exeter"_s);
+    openExeterWith("CURRENTFLOATPOINTS", "38.25");
     EXPECT_EQ(shown("lblFloatPts"), u"51 %"_s);
     press("cmdFltPitsDown");
     save();
@@ -223,10 +220,7 @@ TEST_F(ShipDataWindow, EveryPercentStepperGoesRound)
 
 TEST_F(ShipDataWindow, AFractionStepsFromItsFirstThreeCharacters)
 {
-    startPastSplash(Language::English);
-    putShip(u"Exeter"_s);
-    store("CURRENTFLOATPOINTS", "50");
-    open(u"CA Exeter"_s);
+    openExeterWith("CURRENTFLOATPOINTS", "50");
     EXPECT_EQ(shown("lblFloatPts"), u"66.6666666666667 %"_s);
     press("cmdFltPtsUp");
     EXPECT_EQ(shown("lblFloatPts"), u"67 %"_s);

@@ -192,10 +192,7 @@ TEST_F(ShipGunPages, ThreeQuartersOf120ShellsAre90)
 
 TEST_F(ShipGunPages, ADestroyedMagazineLeavesItsRoundsEditable)
 {
-    startPastSplash(Language::English);
-    putShip(u"Exeter"_s);
-    store("MAGADAMAGE", "-1");
-    open(u"CA Exeter"_s);
+    openExeterWith("MAGADAMAGE", "-1");
     EXPECT_TRUE(box("chkMagA")->isChecked());
     EXPECT_FALSE(box("chkMagB")->isChecked());
     press("cmdPortHE_down");

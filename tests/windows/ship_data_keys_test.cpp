@@ -90,10 +90,7 @@ TEST_F(ShipDataKeys, MinusOnAGunButtonTakesOneAndPlusNone)
 
 TEST_F(ShipDataKeys, ABarShowsTheShareThatItsNumberSays)
 {
-    startPastSplash(Language::English);
-    putShip(u"Exeter"_s);
-    store("CURRENTHITPOINTS", "660");
-    open(u"CA Exeter"_s);
+    openExeterWith("CURRENTHITPOINTS", "660");
     EXPECT_EQ(bar("lblHitPtBar")->maximum(), 1000);
     EXPECT_EQ(bar("lblHitPtBar")->value(), 330);
     press("cmdHitPtsDown");
