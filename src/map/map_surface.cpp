@@ -119,8 +119,7 @@ bool MapBox::takePointerKey(const QKeyEvent& event)
         return false;
     }
     if (!event.isAutoRepeat()) {
-        // Like any other key it shows all rings first.
-        Q_EMIT typed(event.text());
+        Q_EMIT clickKeyTyped(event.text());
         clickAtPointer();
     }
     return true;

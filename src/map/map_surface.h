@@ -31,6 +31,8 @@ public:
 Q_SIGNALS:
     /// A key that gives a character.
     void typed(const QString& character);
+    /// Space or Enter; a move to the pointer and a press follow.
+    void clickKeyTyped(const QString& character);
     void pressed(Qt::MouseButton button, QPointF position);
     void moved(QPointF position);
 

@@ -301,11 +301,17 @@ void TacticalMap::toggleMeasureTool()
 void TacticalMap::keyTyped(const QString& character)
 {
     applyRingKey(m_state.toggles, character);
-    // Any redraw places an armed target area. Space and Enter leave that to the click that follows them,
-    // which draws the map anew itself.
-    const bool clicks = character == u" " || character == u"\r";
-    if (!clicks || !m_state.target.armed) {
-        redrawMap();
+    redrawMap();
+}
+
+// Any redraw places an armed target area. This one leaves that to the click that follows, which draws the map
+// anew itself.
+void TacticalMap::clickKeyTyped(const QString& character)
+{
+    if (m_state.target.armed) {
+        applyRingKey(m_state.toggles, character);
+    } else {
+        keyTyped(character);
     }
 }
 

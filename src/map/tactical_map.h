@@ -73,6 +73,8 @@ public:
     void useTool(Tool tool);
     void toggleMeasureTool();
     void keyTyped(const QString& character);
+    /// A key that is about to click where the pointer is; like any other it ends the filter of the rings.
+    void clickKeyTyped(const QString& character);
     void mousePressed(Qt::MouseButton button, QPointF position);
     void mouseMoved(QPointF position);
 

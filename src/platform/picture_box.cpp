@@ -100,13 +100,6 @@ private:
 
 } // namespace
 
-// Both corners belong to the box, whichever way round they are.
-static QRect boxOf(QPoint from, QPoint to)
-{
-    return {QPoint(std::min(from.x(), to.x()), std::min(from.y(), to.y())),
-            QPoint(std::max(from.x(), to.x()), std::max(from.y(), to.y()))};
-}
-
 PictureBox::PictureBox(QWidget* parent) : QWidget(parent), m_backColor(palette().color(QPalette::Window))
 {
     setAttribute(Qt::WA_OpaquePaintEvent);
@@ -171,12 +164,11 @@ void PictureBox::fillPixels(QPainter& painter, QPoint from, QPoint to)
 void PictureBox::line(QPoint from, QPoint to)
 {
     draw([&](QPainter& painter) {
-        if (!isDense()) {
-            painter.drawLine(from, to);
-        } else if (from.x() == to.x() || from.y() == to.y()) {
+        if (from.x() == to.x() || from.y() == to.y()) {
             fillPixels(painter, from, to);
         } else {
-            painter.drawLine(from + middle, to + middle);
+            const QPointF shift = isDense() ? middle : QPointF();
+            painter.drawLine(from + shift, to + shift);
         }
     });
 }
@@ -184,10 +176,6 @@ void PictureBox::line(QPoint from, QPoint to)
 void PictureBox::box(QPoint from, QPoint to)
 {
     draw([&](QPainter& painter) {
-        if (!isDense()) {
-            painter.drawRect(boxOf(from, to).adjusted(0, 0, -1, -1));
-            return;
-        }
         for (const QPoint corner : {QPoint(from.x(), to.y()), QPoint(to.x(), from.y())}) {
             fillPixels(painter, from, corner);
             fillPixels(painter, corner, to);

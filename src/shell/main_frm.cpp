@@ -99,6 +99,8 @@ void MainFrm::connectCommands()
 void MainFrm::connectMap()
 {
     on(&m_surface->map(), &MapBox::typed, [this](const QString& character) { m_map->keyTyped(character); });
+    on(&m_surface->map(), &MapBox::clickKeyTyped,
+       [this](const QString& character) { m_map->clickKeyTyped(character); });
     on(&m_surface->map(), &MapBox::pressed,
        [this](Qt::MouseButton button, QPointF position) { m_map->mousePressed(button, position); });
     on(&m_surface->map(), &MapBox::moved, [this](QPointF position) { m_map->mouseMoved(position); });
