@@ -21,6 +21,7 @@ function(torvane_add_tests name)
         target_link_libraries(${name} PRIVATE torvane_window_test_support torvane_editor Qt6::Test)
     else()
         target_link_libraries(${name} PRIVATE torvane_test_support torvane_core)
+        set_property(GLOBAL APPEND PROPERTY torvane_core_tests ${name})
     endif()
     if(arg_SCALE)
         # A property of its own: the discovery takes a list of variables apart.

@@ -128,6 +128,7 @@ void TacticalMap::drawTargetArea(MarkList& marks)
         target.armed = false;
         target.placed = true;
     }
+    rememberTargetArea(m_editor.workingProfile(), target.area);
 }
 
 void TacticalMap::drawSeparationRings(MarkList& marks)

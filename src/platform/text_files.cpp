@@ -222,6 +222,13 @@ void deleteFile(const QString& path)
     }
 }
 
+void renameFile(const QString& path, const QString& newPath)
+{
+    if (::rename(systemPath(path).constData(), systemPath(newPath).constData()) != 0) {
+        throw fileError(path, errno);
+    }
+}
+
 void requireWritableFolder(const QString& folder)
 {
     // A file that really lies there shows what permissions alone don't: a full disk, a quota, a read-only

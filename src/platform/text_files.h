@@ -23,6 +23,10 @@ void writeScratchFile(const QString& path, QByteArrayView bytes);
 /// can't be deleted.
 void deleteFile(const QString& path);
 
+/// Gives a file another name in the same file system, which must be that of no other file. Throws
+/// RuntimeError.
+void renameFile(const QString& path, const QString& newPath);
+
 /// Throws RuntimeError, naming the folder, unless it exists and a file can be made and filled in it. Leaves
 /// nothing behind.
 void requireWritableFolder(const QString& folder);

@@ -168,28 +168,33 @@ void copyScenarioToProfile(const Profile& file, WorkingProfile& profile, const L
 
 namespace {
 
-int targetValue(const WorkingProfile& profile, QStringView key)
+QString targetText(const Profile& profile, QStringView key)
 {
-    return toInt32(numberValue(profile.GetIniKey(scenarioDataSection, key)));
+    return fromCodePage(GetIniKey(profile, toCodePage(scenarioDataSection), toCodePage(key)));
 }
 
+int targetValue(const Profile& profile, QStringView key)
+{
+    return toInt32(numberValue(targetText(profile, key)));
+}
+
+} // namespace
+
 // The first four slots. Where Force A has no area, the one of Force B applies: its x, never its z. Kept.
-void readTarget(const WorkingProfile& profile, TargetArea& target)
+void readTargetArea(const Profile& profile, TargetArea& target)
 {
     target.x = targetValue(profile, keyTable[0]);
     target.z = targetValue(profile, keyTable[1]);
-    if (profile.GetIniKey(scenarioDataSection, keyTable[2]) == u"0") {
+    if (targetText(profile, keyTable[2]) == u"0") {
         target.x = 0;
         target.z = 0;
         target.x = targetValue(profile, keyTable[3]);
     }
 }
 
-} // namespace
-
 void restoreTargetArea(WorkingProfile& profile, TargetArea& target, const LoadProgress& advance)
 {
-    readTarget(profile, target);
+    readTargetArea(profile.parsed(), target);
     // Yards that a profile itself holds count for more than its positions. One that was just loaded has none.
     forEachShip(advance, [&profile](const QString& ship) {
         for (const QStringView key : {QStringView(u"XPOSITION"), QStringView(u"ZPOSITION")}) {

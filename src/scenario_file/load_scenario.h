@@ -48,6 +48,10 @@ void loadProfileFromScenario(const Profile& file, WorkingProfile& profile, const
 /// the range of a double.
 void copyScenarioToProfile(const Profile& file, WorkingProfile& profile, const LoadProgress& advance = {});
 
+/// Takes the centre of the target area from the keys of a profile, as a load does. Throws Overflow beyond 32
+/// bits.
+void readTargetArea(const Profile& profile, TargetArea& target);
+
 /// Takes the centre of the target area from the profile and turns the z of all ships back to the map's sign.
 /// An area of Force B has its x alone: its z stays 0. Throws Overflow for a target beyond 32 bits and a z
 /// beyond the range of a double.

@@ -186,7 +186,13 @@ void ScenarioWriter::copyDivision(int division)
 QByteArray scenarioBytes(const WorkingProfile& profile, const TargetArea& target, QStringView forceALabel,
                          const SaveProgress& advance)
 {
-    ScenarioWriter writer(profile.parsed(), target, forceALabel, advance);
+    return scenarioBytes(profile.parsed(), target, forceALabel, advance);
+}
+
+QByteArray scenarioBytes(const Profile& profile, const TargetArea& target, QStringView forceALabel,
+                         const SaveProgress& advance)
+{
+    ScenarioWriter writer(profile, target, forceALabel, advance);
     writer.advance();
     writer.copyHead();
     writer.advance();

@@ -10,6 +10,7 @@
 
 namespace torvane {
 
+class Profile;
 class WorkingProfile;
 
 /// Called at each of the 278 steps of a save.
@@ -20,6 +21,9 @@ using SaveProgress = std::function<void()>;
 /// where it reads "Force A". Throws RuntimeError for a profile without a division count and for a position
 /// beyond the range of a double.
 QByteArray scenarioBytes(const WorkingProfile& profile, const TargetArea& target, QStringView forceALabel,
+                         const SaveProgress& advance = {});
+/// The same of a profile that has been read.
+QByteArray scenarioBytes(const Profile& profile, const TargetArea& target, QStringView forceALabel,
                          const SaveProgress& advance = {});
 
 /// Puts the scenario file in place, whole and once, over a file of that name. Throws RuntimeError and leaves

@@ -2,7 +2,7 @@
 
 namespace torvane {
 
-constexpr std::array<TextRow<MainText>, 19> mainTexts{{
+constexpr std::array<TextRow<MainText>, 20> mainTexts{{
     {MainText::Title, {"Torvane - Scenario Editor", "Torvane - Szenario-Editor"}},
     {MainText::RulerCaption, {"Distance A to B", "Abstand A nach B"}},
     {MainText::Division, {"Division", "Verband"}},
@@ -35,6 +35,11 @@ constexpr std::array<TextRow<MainText>, 19> mainTexts{{
       "Diese Datei konnte nicht geschrieben werden:\n\n%1\n\n%2\n\nIhre Änderungen bleiben erhalten, solange "
       "das "
       "Programm läuft, und werden geschrieben, sobald es wieder möglich ist."}},
+    {MainText::Unrecovered,
+     {"The scenario of a run that did not end could not be recovered:\n\n%1\n\nIt is kept in this file, and "
+      "the next start tries again:\n\n%2",
+      "Das Szenario eines Laufs, der nicht zu Ende kam, konnte nicht wiederhergestellt werden:\n\n%1\n\nEs "
+      "liegt in dieser Datei, und der nächste Start versucht es noch einmal:\n\n%2"}},
 }};
 
 QString mainText(MainText text, Language language)

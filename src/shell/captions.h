@@ -30,10 +30,11 @@ enum class MainText {
     RuntimeErrorTitle,
     FolderInUse,
     UnsavedFile,
+    Unrecovered,
 };
 
 /// One row a text, in the order of `MainText`.
-extern const std::array<TextRow<MainText>, 19> mainTexts;
+extern const std::array<TextRow<MainText>, 20> mainTexts;
 
 QString mainText(MainText text, Language language);
 

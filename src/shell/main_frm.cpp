@@ -14,6 +14,7 @@
 #include "shell/division_commands.h"
 #include "shell/edit_ship_commands.h"
 #include "shell/editor.h"
+#include "shell/killed_run.h"
 #include "shell/load_commands.h"
 #include "shell/main_menu.h"
 #include "shell/new_scenario.h"
@@ -143,6 +144,7 @@ void MainFrm::onLoad()
         showDebugReadOuts();
     }
     m_started = true; // also where a file of an earlier run resists
+    recoverKilledRun(m_editor);
     m_editor.scratchFiles().removeLeftovers();
     killFiles();
 }
@@ -276,6 +278,7 @@ void MainFrm::unload()
     try {
         killFiles();
     } catch (const RuntimeError& error) {
+        dropProfile(m_editor); // a run that was ended leaves nothing to recover
         m_editor.report(error);
     }
     if (answer == MessageBox::Answer::Yes) {

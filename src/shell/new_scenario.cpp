@@ -29,17 +29,6 @@ static void restoreStartState(MainMenu& menu)
     menu.setEnabled(QStringLiteral("mnuCreateForceB"), false);
 }
 
-// What is left of the old scenario after its files could not be cleared: nothing that a later step could take
-// for a scenario.
-static void dropProfile(Editor& editor)
-{
-    try {
-        editor.workingProfile().remove();
-    } catch (const RuntimeError&) {
-        // The error that led here is the one that is shown.
-    }
-}
-
 static void clearStore(Editor& editor)
 {
     // Zeroing the profile has no lasting effect, as the next step deletes it. The order is kept.
@@ -48,6 +37,15 @@ static void clearStore(Editor& editor)
     const ScratchFiles& files = editor.scratchFiles();
     files.write(files.shipTrack(), {QString()});
     editor.divisionRecords().recount();
+}
+
+void dropProfile(Editor& editor)
+{
+    try {
+        editor.workingProfile().remove();
+    } catch (const RuntimeError&) {
+        // The error that led here is the one that is shown.
+    }
 }
 
 void newScenario(Editor& editor)

@@ -9,4 +9,8 @@ class Editor;
 /// old scenario stands as it was, or, if it is already gone, the menus are those of a program without one.
 void newScenario(Editor& editor);
 
+/// Deletes the working profile after the store could not be cleared: nothing that a later step or run could
+/// take for a scenario. Does nothing where that fails too.
+void dropProfile(Editor& editor);
+
 } // namespace torvane

@@ -143,16 +143,20 @@ TEST_F(RealRun, ASecondEditorInTheSameFolderSaysSoAndEnds)
     EXPECT_EQ(process->state(), QProcess::Running);
 }
 
-TEST_F(RealRun, AKilledRunLeavesNothingToTheNext)
+TEST_F(RealRun, AKilledRunLeavesItsScenarioAndNothingElseToTheNext)
 {
     start(english);
     desktop.press({QStringLiteral("alt+f"), QStringLiteral("n")});
     ASSERT_TRUE(desktop.isActive(QStringLiteral("Torvane - Overview of the Scenario")));
+    ASSERT_TRUE(eventually([&] { return folder.workNames().contains(QStringLiteral("iniTemp.bmm")); }));
     ASSERT_EQ(::kill(static_cast<pid_t>(process->processId()), SIGKILL), 0);
     process->waitForFinished();
     EXPECT_NE(folder.workNames(), atRest());
     start();
     EXPECT_EQ(folder.workNames(), atRest());
+    const QStringList recovered = QDir(folder.path() + QStringLiteral("/Scenarios"))
+                                      .entryList({QStringLiteral("*(wiederhergestellt *).scn")});
+    EXPECT_EQ(recovered.size(), 1);
 }
 
 TEST_F(RealRun, F1OpensTheHelpAndEscClosesItAndNotTheEditor)

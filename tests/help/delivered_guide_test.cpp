@@ -171,9 +171,10 @@ TEST(DeliveredGuide, ExplainsWhatTheMainWindowSays)
 {
     for (const Language language : bothLanguages) {
         const QString text = wholeText(language);
-        for (const MainText message : {MainText::ExitQuestion, MainText::ExitTitle, MainText::Loading,
-                                       MainText::Saving, MainText::FolderInUse, MainText::UnsavedFile,
-                                       MainText::HelpTagsOn, MainText::HelpTagsOff, MainText::RulerCaption}) {
+        for (const MainText message :
+             {MainText::ExitQuestion, MainText::ExitTitle, MainText::Loading, MainText::Saving,
+              MainText::FolderInUse, MainText::UnsavedFile, MainText::Unrecovered, MainText::HelpTagsOn,
+              MainText::HelpTagsOff, MainText::RulerCaption}) {
             expectExplained(mainText(message, language), language, text);
         }
         for (const ViewTool& tool : viewTools) {

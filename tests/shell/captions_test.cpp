@@ -65,6 +65,10 @@ TEST(MainTextTable, BoxesThatNameAFileTakeItsName)
                         .arg(QStringLiteral("/f"), QStringLiteral("full"))
                         .toStdString(),
                     ::testing::AllOf(::testing::HasSubstr("\n/f\n"), ::testing::HasSubstr("\nfull\n")));
+        EXPECT_THAT(mainText(MainText::Unrecovered, language)
+                        .arg(QStringLiteral("full"), QStringLiteral("/f"))
+                        .toStdString(),
+                    ::testing::AllOf(::testing::HasSubstr("\nfull\n"), ::testing::EndsWith("\n/f")));
     }
 }
 

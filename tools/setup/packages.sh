@@ -6,6 +6,7 @@ display_packages=(libqt6gui6 qt6-qpa-plugins fonts-dejavu-core)
 tour_packages=(xvfb openbox xdotool x11-utils)
 test_packages=(libgtest-dev libgmock-dev "${tour_packages[@]}" xauth sqlite3 binutils)
 check_packages=(clang clang-format clang-tidy libclang-rt-14-dev git)
+coverage_packages=(llvm)
 bench_packages=(libbenchmark-dev libinih-dev libsimpleini-dev)
 
 is_installed() {
