@@ -33,8 +33,8 @@ QString className(int i)
     return QStringLiteral("Class %1").arg(i % classCount);
 }
 
-/// Makes a database file with a catalogue of full size.
-void makeCatalogue(const QString& path)
+/// Makes a database file with so many ships.
+void makeCatalogue(const QString& path, int ships)
 {
     const QString classFields =
         QStringLiteral("b, e, f, g, h, i, j, k, l, m, o, p, q, r, t, u, v, x, y, z, aa, length, width, "
@@ -47,7 +47,7 @@ void makeCatalogue(const QString& path)
         "CREATE TABLE ShipDataB (Name, Type, Class, Navy, HitPts, FloatPts, \"Torps?\", ShortName)"));
     file.execute(QStringLiteral("CREATE TABLE ShipDaClass (%1)").arg(classFields));
     file.execute(QStringLiteral("BEGIN"));
-    for (int i = 0; i < shipCount; ++i) {
+    for (int i = 0; i < ships; ++i) {
         file.execute(
             QStringLiteral("INSERT INTO ShipDataB VALUES ('%1', 'CA', '%2', 'RN', '1', '1', 'Yes', 'S')")
                 .arg(shipName(i), className(i)));
@@ -63,9 +63,9 @@ void makeCatalogue(const QString& path)
 /// A work folder with a catalogue.
 struct WorkFolder
 {
-    WorkFolder()
+    explicit WorkFolder(int ships = shipCount)
     {
-        makeCatalogue(folder.filePath(shipDatabaseFile));
+        makeCatalogue(folder.filePath(shipDatabaseFile), ships);
         controls.bind(folder.path());
     }
     QTemporaryDir folder;
@@ -159,24 +159,36 @@ void findTheLengthOfAClass(benchmark::State& state)
 }
 BENCHMARK(findTheLengthOfAClass);
 
+int shipsOf(const benchmark::State& state)
+{
+    return static_cast<int>(state.range(0));
+}
+
+/// A tenth of the catalogue, all of it and ten of it.
+void catalogueSizes(benchmark::internal::Benchmark* benchmark)
+{
+    benchmark->ArgName("ships")->Arg(shipCount / 10)->Arg(shipCount)->Arg(shipCount * 10);
+    benchmark->Unit(benchmark::kMillisecond);
+}
+
 void floorReadTheCataloguesBytes(benchmark::State& state)
 {
-    const WorkFolder work;
+    const WorkFolder work(shipsOf(state));
     for (auto _ : state) {
         benchmark::DoNotOptimize(readWholeFile(work.folder.filePath(shipDatabaseFile)));
     }
 }
-BENCHMARK(floorReadTheCataloguesBytes)->Unit(benchmark::kMillisecond);
+BENCHMARK(floorReadTheCataloguesBytes)->Apply(catalogueSizes);
 
 void openShipsAndClasses(benchmark::State& state)
 {
-    const WorkFolder work;
+    const WorkFolder work(shipsOf(state));
     for (auto _ : state) {
         ShipCatalogue catalogue(work.controls);
-        catalogue.shipToClass(shipName(shipCount - 1));
+        catalogue.shipToClass(shipName(shipsOf(state) - 1));
     }
 }
-BENCHMARK(openShipsAndClasses)->Unit(benchmark::kMillisecond);
+BENCHMARK(openShipsAndClasses)->Apply(catalogueSizes);
 
 /// A scenario of eleven divisions, and the lists of two more to be written in turn over one another.
 class Scenario

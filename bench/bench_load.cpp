@@ -24,10 +24,10 @@ using namespace torvane;
 
 namespace {
 
-constexpr int ships = 32;
+constexpr int usualShips = 32;
 
 /// A working profile of twelve divisions, six a side, with the ships spread over them.
-QByteArray workingProfile()
+QByteArray workingProfile(int ships)
 {
     QByteArray bytes = "[SCENARIODATA]\r\n";
     for (const auto& [key, value] : encodeScenario(scenarioDefaults(Language::English), Language::English)) {
@@ -61,7 +61,7 @@ void settle()
 class Run
 {
 public:
-    Run()
+    explicit Run(int ships = usualShips)
     {
         QDir(m_folder.path()).mkpath(QStringLiteral("ScenarioEditor"));
         QDir(m_folder.path()).mkpath(QStringLiteral("Scenarios"));
@@ -72,7 +72,7 @@ public:
         settle();
         ProfileStore profiles;
         WorkingProfile profile(profiles, m_folder.path());
-        writeWholeFile(profile.path(), workingProfile());
+        writeWholeFile(profile.path(), workingProfile(ships));
         saveINIfile(scenario(), profile, {.x = 500, .z = 700}, u"Force A");
         load(); // the overview is made once a run
         closeOverview();
@@ -117,11 +117,22 @@ public:
     Editor editor{m_folder.path(), {.language = Language::English}, m_services.services()};
 };
 
+int shipsOf(const benchmark::State& state)
+{
+    return static_cast<int>(state.range(0));
+}
+
+void shipCounts(benchmark::internal::Benchmark* benchmark)
+{
+    benchmark->ArgName("ships")->Arg(1)->Arg(10)->Arg(usualShips)->Arg(100);
+    benchmark->Unit(benchmark::kMillisecond);
+}
+
 /// The scenario's bytes read, and the files that a load leaves deleted and written, each in one piece.
 /// Nothing is synced.
 void floorOfTheSameFiles(benchmark::State& state)
 {
-    Run run;
+    Run run(shipsOf(state));
     run.load();
     std::vector<std::pair<QString, QByteArray>> files;
     for (const QString& name : run.scratchFiles()) {
@@ -142,7 +153,7 @@ void floorOfTheSameFiles(benchmark::State& state)
 
 void floorOfTheOverviewAlone(benchmark::State& state)
 {
-    Run run;
+    Run run(shipsOf(state));
     for (auto _ : state) {
         run.openOverview();
         state.PauseTiming();
@@ -153,7 +164,7 @@ void floorOfTheOverviewAlone(benchmark::State& state)
 
 void load(benchmark::State& state)
 {
-    Run run;
+    Run run(shipsOf(state));
     for (auto _ : state) {
         run.load();
         state.PauseTiming();
@@ -199,9 +210,9 @@ void loadAndSaveAThousandTimes(benchmark::State& state)
     }
 }
 
-BENCHMARK(floorOfTheSameFiles)->Unit(benchmark::kMillisecond);
-BENCHMARK(floorOfTheOverviewAlone)->Unit(benchmark::kMillisecond);
-BENCHMARK(load)->Unit(benchmark::kMillisecond);
+BENCHMARK(floorOfTheSameFiles)->Apply(shipCounts);
+BENCHMARK(floorOfTheOverviewAlone)->Apply(shipCounts);
+BENCHMARK(load)->Apply(shipCounts);
 BENCHMARK(loadAndSaveAThousandTimes)->Unit(benchmark::kSecond)->Iterations(1)->Repetitions(1);
 
 } // namespace

@@ -77,6 +77,25 @@ const QByteArray& parseFile()
     return bytes;
 }
 
+/// Ships of a division in a file that is parsed: 1, 10 and 100 times the work, and those of the usual file.
+void parsedSizes(benchmark::internal::Benchmark* benchmark)
+{
+    benchmark->ArgName("ships")->Arg(1)->Arg(10)->Arg(shipsOfParseFile)->Arg(100);
+    benchmark->Unit(benchmark::kMicrosecond);
+}
+
+/// Reads in a row.
+void readCounts(benchmark::internal::Benchmark* benchmark)
+{
+    benchmark->ArgName("reads")->Arg(readsARun / 100)->Arg(readsARun / 10)->Arg(readsARun);
+    benchmark->Unit(benchmark::kMicrosecond);
+}
+
+int sizeOf(const benchmark::State& state)
+{
+    return static_cast<int>(state.range(0));
+}
+
 struct Name
 {
     QString section;
@@ -116,7 +135,7 @@ private:
 
 void floorMemchrOverLines(benchmark::State& state)
 {
-    const QByteArray& bytes = parseFile();
+    const QByteArray bytes = scenario(sizeOf(state));
     for (auto _ : state) {
         int lines = 0;
         const char* at = bytes.begin();
@@ -128,26 +147,27 @@ void floorMemchrOverLines(benchmark::State& state)
     }
     state.SetBytesProcessed(static_cast<std::int64_t>(state.iterations()) * bytes.size());
 }
-BENCHMARK(floorMemchrOverLines)->Unit(benchmark::kMicrosecond);
+BENCHMARK(floorMemchrOverLines)->Apply(parsedSizes);
 
 /// With a look-up in every section, so that no work is put off.
 void parseAndLookIntoEachSection(benchmark::State& state)
 {
+    const QByteArray bytes = scenario(sizeOf(state));
     std::vector<QByteArray> sections;
     for (int n = 0; n < divisionSections; ++n) {
-        for (int m = 0; m < shipsOfParseFile; ++m) {
+        for (int m = 0; m < sizeOf(state); ++m) {
             sections.push_back(toCodePage(shipSection(n, m)));
         }
     }
     for (auto _ : state) {
-        const Profile profile = Profile::parse(parseFile());
+        const Profile profile = Profile::parse(bytes);
         for (const QByteArray& section : sections) {
             benchmark::DoNotOptimize(profile.value(section, "MAGBCOM"));
         }
     }
-    state.SetBytesProcessed(static_cast<std::int64_t>(state.iterations()) * parseFile().size());
+    state.SetBytesProcessed(static_cast<std::int64_t>(state.iterations()) * bytes.size());
 }
-BENCHMARK(parseAndLookIntoEachSection)->Unit(benchmark::kMicrosecond);
+BENCHMARK(parseAndLookIntoEachSection)->Apply(parsedSizes);
 
 #ifdef TORVANE_HAS_INIH
 void parseWithInihIntoMap(benchmark::State& state)
@@ -211,11 +231,11 @@ void parseFileWithQSettings(benchmark::State& state)
 }
 BENCHMARK(parseFileWithQSettings)->Unit(benchmark::kMicrosecond);
 
-void floorTenThousandHashLookUps(benchmark::State& state)
+void floorHashLookUps(benchmark::State& state)
 {
     QHash<QString, QString> values;
     std::vector<QString> keys;
-    for (const Name& name : randomNames(readsARun)) {
+    for (const Name& name : randomNames(sizeOf(state))) {
         keys.push_back(name.section + u'/' + name.key);
         values.insert(keys.back(), QStringLiteral("100"));
     }
@@ -225,12 +245,12 @@ void floorTenThousandHashLookUps(benchmark::State& state)
         }
     }
 }
-BENCHMARK(floorTenThousandHashLookUps)->Unit(benchmark::kMillisecond);
+BENCHMARK(floorHashLookUps)->Apply(readCounts);
 
-void readTenThousandKeysInABatch(benchmark::State& state)
+void readKeysInABatch(benchmark::State& state)
 {
     const FileOnDisk file(readFile());
-    const std::vector<Name> names = randomNames(readsARun);
+    const std::vector<Name> names = randomNames(sizeOf(state));
     ProfileStore store;
     for (auto _ : state) {
         const ProfileStore::Batch batch(store);
@@ -239,25 +259,25 @@ void readTenThousandKeysInABatch(benchmark::State& state)
         }
     }
 }
-BENCHMARK(readTenThousandKeysInABatch)->Unit(benchmark::kMillisecond);
+BENCHMARK(readKeysInABatch)->Apply(readCounts);
 
-void floorTenThousandLooksAtTheDisk(benchmark::State& state)
+void floorLooksAtTheDisk(benchmark::State& state)
 {
     const FileOnDisk file(readFile());
     const QByteArray path = QFile::encodeName(file.path());
     for (auto _ : state) {
-        for (int i = 0; i < readsARun; ++i) {
+        for (int i = 0; i < sizeOf(state); ++i) {
             struct statx status = {};
             benchmark::DoNotOptimize(::statx(AT_FDCWD, path.constData(), 0, STATX_BASIC_STATS, &status));
         }
     }
 }
-BENCHMARK(floorTenThousandLooksAtTheDisk)->Unit(benchmark::kMillisecond);
+BENCHMARK(floorLooksAtTheDisk)->Apply(readCounts);
 
-void readTenThousandKeysWithoutABatch(benchmark::State& state)
+void readKeysWithoutABatch(benchmark::State& state)
 {
     const FileOnDisk file(readFile());
-    const std::vector<Name> names = randomNames(readsARun);
+    const std::vector<Name> names = randomNames(sizeOf(state));
     ProfileStore store;
     for (auto _ : state) {
         for (const Name& name : names) {
@@ -265,7 +285,7 @@ void readTenThousandKeysWithoutABatch(benchmark::State& state)
         }
     }
 }
-BENCHMARK(readTenThousandKeysWithoutABatch)->Unit(benchmark::kMillisecond);
+BENCHMARK(readKeysWithoutABatch)->Apply(readCounts);
 
 /// Values that differ from those of the run before.
 QString valueOfRun(int run)

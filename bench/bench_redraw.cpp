@@ -24,6 +24,7 @@
 
 #include <benchmark/benchmark.h>
 
+#include <algorithm>
 #include <array>
 #include <unistd.h>
 #include <variant>
@@ -48,7 +49,9 @@ class RunWithShips
 public:
     RunWithShips(int ships, bool rings, int zoomIndex, bool day = true)
         : m_day(day),
-          m_divisionSize(ships > shipsOfADivision * divisionSections ? largestDivision : shipsOfADivision),
+          m_divisionSize(ships % shipsOfADivision == 0 && ships <= shipsOfADivision * divisionSections
+                             ? shipsOfADivision
+                             : std::min(ships, largestDivision)),
           m_divisions(ships / m_divisionSize)
     {
         QDir(m_folder.path()).mkpath(QStringLiteral("ScenarioEditor"));
@@ -275,8 +278,15 @@ void circle(benchmark::State& state)
     }
 }
 
-BENCHMARK(floorOfShips)->ArgName("ships")->Arg(32)->Arg(120)->Unit(benchmark::kMillisecond);
-BENCHMARK(redrawShips)->ArgName("ships")->Arg(32)->Arg(120)->Unit(benchmark::kMillisecond);
+// 1, 10 and 100 times the work, the usual scenario and the fullest one.
+void shipCounts(benchmark::internal::Benchmark* benchmark)
+{
+    benchmark->ArgName("ships")->Arg(1)->Arg(10)->Arg(32)->Arg(100)->Arg(120);
+    benchmark->Unit(benchmark::kMillisecond);
+}
+
+BENCHMARK(floorOfShips)->Apply(shipCounts);
+BENCHMARK(redrawShips)->Apply(shipCounts);
 BENCHMARK(floorOfRings)->ArgName("zoomIndex")->Arg(4)->Arg(1)->Arg(10)->Unit(benchmark::kMillisecond);
 BENCHMARK(redrawRings)->ArgName("zoomIndex")->Arg(4)->Arg(1)->Arg(10)->Unit(benchmark::kMillisecond);
 BENCHMARK(floorOfRingsByNight)->ArgName("zoomIndex")->Arg(4)->Unit(benchmark::kMillisecond);

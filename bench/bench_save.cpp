@@ -107,7 +107,14 @@ void saveWithoutTheDisk(benchmark::State& state)
 
 void shipCounts(benchmark::internal::Benchmark* benchmark)
 {
-    benchmark->Arg(32)->Arg(120)->Unit(benchmark::kMicrosecond)->UseRealTime();
+    benchmark->ArgName("ships")
+        ->Arg(1)
+        ->Arg(10)
+        ->Arg(32)
+        ->Arg(100)
+        ->Arg(120)
+        ->Unit(benchmark::kMicrosecond)
+        ->UseRealTime();
 }
 BENCHMARK(floorQSaveFileOfTheSameBytes)->Apply(shipCounts);
 BENCHMARK(floorWriteWholeFileOfTheSameBytes)->Apply(shipCounts);
