@@ -1,9 +1,10 @@
 # Registers the tests of one program with CTest, one CTest entry a test.
 #   CORE: links torvane_core alone, runs without a display.
+#   PROGRAMS: runs built programs, which CI tries as users get them too; `ctest -L programs` runs these alone.
 #   WINDOWS: links torvane_editor, runs on the offscreen platform; SCALE n makes its screen n times as dense.
 # Headers that most tests need are compiled once a program, but not under a compiler cache, which saves more.
 function(torvane_add_tests name)
-    cmake_parse_arguments(arg "CORE;WINDOWS" "SCALE" "SOURCES" ${ARGN})
+    cmake_parse_arguments(arg "CORE;PROGRAMS;WINDOWS" "SCALE" "SOURCES" ${ARGN})
     add_executable(${name} ${arg_SOURCES})
     target_link_libraries(${name} PRIVATE GTest::gmock torvane_warnings)
     target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR}/tests)
@@ -21,16 +22,22 @@ function(torvane_add_tests name)
         target_link_libraries(${name} PRIVATE torvane_window_test_support torvane_editor Qt6::Test)
     else()
         target_link_libraries(${name} PRIVATE torvane_test_support torvane_core)
-        set_property(GLOBAL APPEND PROPERTY torvane_core_tests ${name})
     endif()
     if(arg_SCALE)
         # A property of its own: the discovery takes a list of variables apart.
         set(scale ENVIRONMENT_MODIFICATION QT_SCALE_FACTOR=set:${arg_SCALE})
         set(prefix "Scale${arg_SCALE}.")
     endif()
+    set(labels "")
+    if(arg_PROGRAMS)
+        set(labels LABELS programs)
+        set_property(GLOBAL APPEND PROPERTY torvane_program_tests ${name})
+    elseif(arg_CORE)
+        set_property(GLOBAL APPEND PROPERTY torvane_core_tests ${name})
+    endif()
     gtest_discover_tests(${name}
         TEST_PREFIX "${prefix}"
         DISCOVERY_MODE PRE_TEST
         DISCOVERY_TIMEOUT 60
-        PROPERTIES TIMEOUT 120 ENVIRONMENT QT_QPA_PLATFORM=offscreen ${scale})
+        PROPERTIES TIMEOUT 120 ENVIRONMENT QT_QPA_PLATFORM=offscreen ${scale} ${labels})
 endfunction()

@@ -7,6 +7,7 @@ tour_packages=(xvfb openbox xdotool x11-utils)
 test_packages=(libgtest-dev libgmock-dev "${tour_packages[@]}" xauth sqlite3 binutils)
 check_packages=(clang clang-format clang-tidy libclang-rt-14-dev git)
 coverage_packages=(llvm)
+package_packages=(desktop-file-utils appstream dpkg-dev)
 bench_packages=(libbenchmark-dev libinih-dev libsimpleini-dev)
 
 is_installed() {
