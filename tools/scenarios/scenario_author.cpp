@@ -42,11 +42,6 @@ QString missionCaption(const QString& english, Language language)
     return mission->caption.in(language);
 }
 
-QString twoDigits(int number)
-{
-    return QStringLiteral("%1").arg(number, 2, 10, QLatin1Char('0'));
-}
-
 } // namespace
 
 ScenarioAuthor::ScenarioAuthor(const QString& catalogue, Language language) : m_language(language)
@@ -58,7 +53,8 @@ ScenarioAuthor::ScenarioAuthor(const QString& catalogue, Language language) : m_
     if (!QFile::copy(catalogue, folder.filePath(QStringLiteral("ScenarioEditor/") + shipDatabaseFile))) {
         throw std::runtime_error("can't copy " + catalogue.toStdString());
     }
-    m_editor = std::make_unique<Editor>(folder.path(), BuildOptions{.language = language}, m_script.services());
+    m_editor =
+        std::make_unique<Editor>(folder.path(), BuildOptions{.language = language}, m_script.services());
     m_editor->start();
     settle();
     testing::press(&m_editor->splashFrm(), Qt::Key_Space);
@@ -133,10 +129,8 @@ void ScenarioAuthor::setEnvironment(const EnvironmentPlan& plan)
     setClock(hand, "TxtSunrise", plan.sunrise, "cmdSunriseHour", "cmdSunriseMin");
     setClock(hand, "TxtSunset", plan.sunset, "cmdSunsetHour", "cmdSunsetMin");
     // Hours first: they move the minutes, and the minutes leave them alone.
-    hand.pushUntil("cmdGameLenHours",
-                   [&] { return hand.shown("lblGmLenHour") == QString::number(plan.length.hours); });
-    hand.pushUntil("cmdGameLenMin",
-                   [&] { return hand.shown("lblGmLenMin") == twoDigits(plan.length.minutes); });
+    hand.pushUntil("cmdGameLenHours", [&] { return hand.shown("lblGmLenHour").toInt() == plan.length.hour; });
+    hand.pushUntil("cmdGameLenMin", [&] { return hand.shown("lblGmLenMin").toInt() == plan.length.minute; });
     // The wind brings its sea with it.
     hand.fill("TxtWindSpd", QString::number(plan.wind));
     hand.fill("TxtWindDir", QString::number(plan.windDirection));
@@ -155,8 +149,8 @@ void ScenarioAuthor::setEnvironment(const EnvironmentPlan& plan)
 void ScenarioAuthor::setClock(const DialogHand& hand, const char* label, ClockTime time, const char* hours,
                               const char* minutes)
 {
-    hand.pushUntil(minutes, [&] { return hand.shown(label).right(2) == twoDigits(time.minutes); });
-    hand.pushUntil(hours, [&] { return hand.shown(label).left(2) == twoDigits(time.hours); });
+    hand.pushUntil(minutes, [&] { return clockTimeOf(hand.shown(label)).minute == time.minute; });
+    hand.pushUntil(hours, [&] { return clockTimeOf(hand.shown(label)).hour == time.hour; });
 }
 
 void ScenarioAuthor::create(const DivisionPlan& plan)

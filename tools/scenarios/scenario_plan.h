@@ -1,6 +1,7 @@
 #pragma once
 
 #include "map/map_geometry.h"
+#include "overview/environment_rules.h"
 #include "platform/language.h"
 #include "store/side.h"
 
@@ -24,15 +25,8 @@ struct PlannedText
 /// What the overview dialog asks about a force.
 struct ForcePlan
 {
-    QString navy;            ///< "KM", "USN", "IJN" or "RN"
+    QString navy;             ///< "KM", "USN", "IJN" or "RN"
     int disengageHeading = 0; ///< degrees
-};
-
-/// Hours and minutes of the day, or a length.
-struct ClockTime
-{
-    int hours = 0;
-    int minutes = 0;
 };
 
 /// What the environment dialog asks. The sea follows the wind.
@@ -40,10 +34,10 @@ struct EnvironmentPlan
 {
     QString month; ///< in English
     int year = 0;
-    ClockTime start;
-    ClockTime sunrise;
-    ClockTime sunset;
-    ClockTime length;
+    ClockTime start{};
+    ClockTime sunrise{};
+    ClockTime sunset{};
+    ClockTime length{};    ///< of the game
     int wind = 0;          ///< knots
     int windDirection = 0; ///< degrees
     int visibility = 0;    ///< percent
@@ -58,7 +52,7 @@ struct DivisionPlan
 {
     Side side = Side::Blue;
     QStringList ships;
-    int flagship = 0; ///< place in the division, from 0
+    int flagship = 0;  ///< place in the division, from 0
     QString formation; ///< "Column", "Line of Bearing" or "Convoy"
     int heading = 0;   ///< degrees
     int spacing = 0;   ///< yards, one of the eight that can be chosen
