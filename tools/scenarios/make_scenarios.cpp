@@ -1,5 +1,5 @@
 // Makes the scenarios that come with the editor from their plans, with the editor's own windows, and puts
-// them into a folder a language. With a fourth argument also a picture of each, loaded again.
+// them into a folder a language. With a fourth argument also pictures of each, loaded again.
 //     make_scenarios CATALOGUE PLANS FOLDER [PICTURES]
 
 #include "scenarios/scenario_author.h"
@@ -8,8 +8,10 @@
 #include <QDir>
 #include <QFileInfo>
 
+#include <algorithm>
 #include <cstdio>
 #include <exception>
+#include <set>
 #include <stdexcept>
 
 namespace torvane {
@@ -23,6 +25,22 @@ QString makeFolder(const QString& parent, const QString& name)
         throw std::runtime_error("can't make " + folder.filePath(name).toStdString());
     }
     return folder.filePath(name);
+}
+
+/// The scenario as its file has it: all of it, and as near as its divisions were placed.
+void paint(ScenarioAuthor& author, const QString& file, const ScenarioPlan& plan, const QString& folder)
+{
+    author.load(file);
+    int nearest = plan.level;
+    for (const DivisionPlan& division : plan.divisions) {
+        nearest = std::min(nearest, division.level);
+    }
+    for (const int level : std::set{plan.level, nearest}) {
+        const QString picture = QStringLiteral("%1/%2_%3.png").arg(folder, plan.name).arg(level);
+        if (!author.picture(level).save(picture)) {
+            throw std::runtime_error("can't write " + picture.toStdString());
+        }
+    }
 }
 
 void makeAll(const QString& catalogue, const QString& plans, const QString& folder, const QString& pictures)
@@ -40,9 +58,7 @@ void makeAll(const QString& catalogue, const QString& plans, const QString& fold
             }
             std::puts(kept.toLocal8Bit().constData());
             if (!pictures.isEmpty()) {
-                author.load(made);
-                author.picture(plan.level)
-                    .save(makeFolder(pictures, code) + u'/' + plan.name + QStringLiteral(".png"));
+                paint(author, made, plan, makeFolder(pictures, code));
             }
         }
     }
