@@ -1,5 +1,6 @@
 #pragma once
 
+#include "catalogue/read_ship_data.h"
 #include "platform/code_page.h"
 #include "platform/profile.h"
 #include "scenario_file/scenario_format.h"
@@ -34,6 +35,16 @@ inline QString catalogueDatabase()
     return QStringLiteral(STAGED_GAME "/ScenarioEditor/ShipDatabase.mdb");
 }
 
+/// The catalogue as its files have it.
+inline const ShipData& catalogue()
+{
+    static const ShipData data = [] {
+        Faults faults;
+        return parseShipData(readShipDataFiles(QStringLiteral(CATALOGUE_FOLDER)), faults);
+    }();
+    return data;
+}
+
 inline QByteArray bytesOf(const QString& path)
 {
     QFile file(path);
@@ -57,7 +68,7 @@ protected:
     {
         return fromCodePage(GetIniKey(m_file, toCodePage(section), toCodePage(key)));
     }
-    QString data(QStringView key) const { return value(QString(scenarioDataSection), key); }
+    QString data(QStringView key) const { return value(scenarioDataSection.toString(), key); }
     /// Where a ship stands on the map.
     Yards place(int division, int ship) const
     {

@@ -1,10 +1,9 @@
-#include "catalogue/read_ship_data.h"
+#include "divisions/speed_limits.h"
 #include "overview/scenario_coding.h"
 #include "scenarios/kept_scenarios.h"
 
-#include <QHash>
-
-#include <cmath>
+#include <algorithm>
+#include <array>
 
 namespace torvane::testing {
 namespace {
@@ -15,18 +14,16 @@ class ScenarioContent : public KeptScenario
 };
 INSTANTIATE_TEST_SUITE_P(All, ScenarioContent, everyKeptScenario(), scenarioName);
 
-const QHash<QString, Ship>& catalogueShips()
+template <typename Record>
+const Record* findRecord(const Records<Record>& records, QString Record::*name, const QString& wanted)
 {
-    static const QHash<QString, Ship> ships = [] {
-        Faults faults;
-        QHash<QString, Ship> all;
-        for (const Ship& ship :
-             parseShipData(readShipDataFiles(QStringLiteral(CATALOGUE_FOLDER)), faults).ships.rows) {
-            all.insert(ship.name, ship);
-        }
-        return all;
-    }();
-    return ships;
+    const auto found = std::ranges::find(records.rows, wanted, name);
+    return found == records.rows.end() ? nullptr : &*found;
+}
+
+const Ship* catalogueShip(const QString& name)
+{
+    return findRecord(catalogue().ships, &Ship::name, name);
 }
 
 TEST_P(ScenarioContent, IsDescribedInItsLanguage)
@@ -95,8 +92,9 @@ TEST_P(ScenarioContent, HasTheShipsOfItsPlanAsTheCatalogueKnowsThem)
         const QStringList& planned = plan().divisions.at(n).ships;
         for (int m = 0; m < planned.size(); ++m) {
             const QString section = shipSection(static_cast<int>(n), m);
-            ASSERT_TRUE(catalogueShips().contains(planned.at(m))) << planned.at(m).toStdString();
-            const Ship& ship = *catalogueShips().find(planned.at(m));
+            const Ship* found = catalogueShip(planned.at(m));
+            ASSERT_NE(found, nullptr) << planned.at(m).toStdString();
+            const Ship& ship = *found;
             EXPECT_EQ(value(section, u"NAME"), ship.name);
             EXPECT_EQ(value(section, u"SHORTNAME"), ship.shortName);
             EXPECT_EQ(value(section, u"TYPE"), ship.type);
@@ -111,7 +109,21 @@ TEST_P(ScenarioContent, HasShipsOfItsTimeAlone)
 {
     for (const DivisionPlan& division : plan().divisions) {
         for (const QString& name : division.ships) {
-            EXPECT_LE(catalogueShips().value(name).commissioned, plan().environment.year)
+            EXPECT_LE(catalogueShip(name)->commissioned, plan().environment.year) << name.toStdString();
+        }
+    }
+}
+
+// A typed speed is taken as it is: the limits are the author's to keep.
+TEST_P(ScenarioContent, HasSpeedsThatShipsAndSeaAllow)
+{
+    for (const DivisionPlan& division : plan().divisions) {
+        for (const QString& name : division.ships) {
+            const Ship& ship = *catalogueShip(name);
+            const ShipClass* shipClass = findRecord(catalogue().classes, &ShipClass::name, ship.className);
+            ASSERT_NE(shipClass, nullptr);
+            EXPECT_LE(division.speed, shipClass->speedKnots) << name.toStdString();
+            EXPECT_LE(division.speed, seaStateSpeed(data(u"SEASTATE").toInt(), ship.type))
                 << name.toStdString();
         }
     }

@@ -1,4 +1,3 @@
-#include "catalogue/read_ship_data.h"
 #include "divisions/formation_placement.h"
 #include "scenarios/kept_scenarios.h"
 
@@ -123,10 +122,8 @@ TEST_P(ScenarioSea, ShowsAllShipsAtItsLevelOfZoom)
 
 QHash<QString, int> gunRanges()
 {
-    Faults faults;
     QHash<QString, int> ranges;
-    for (const GunRange& range :
-         parseShipData(readShipDataFiles(QStringLiteral(CATALOGUE_FOLDER)), faults).ranges.rows) {
+    for (const GunRange& range : catalogue().ranges.rows) {
         ranges.insert(range.className, range.yards);
     }
     return ranges;
