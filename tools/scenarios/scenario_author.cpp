@@ -26,7 +26,6 @@
 
 namespace torvane {
 
-using testing::click;
 using testing::settle;
 
 namespace {

@@ -132,7 +132,8 @@ DivisionPlan readDivision(PlanReader reader, int usualLevel)
         reader.fail(QStringLiteral("force is neither A nor B"));
     }
     plan.side = force == QLatin1StringView("A") ? Side::Blue : Side::Red;
-    for (const QJsonValue& ship : reader.list("ships")) {
+    const QJsonArray ships = reader.list("ships");
+    for (const auto& ship : ships) {
         plan.ships.append(ship.toString());
     }
     plan.flagship = reader.has("flagship") ? reader.number("flagship") : 0;
@@ -177,7 +178,8 @@ ScenarioPlan readScenarioPlan(const QString& path)
     plan.forceB = readForce(reader.object("forceB"));
     plan.environment = readEnvironment(reader.object("environment"));
     plan.level = reader.number("level");
-    for (const QJsonValue& division : reader.list("divisions")) {
+    const QJsonArray divisions = reader.list("divisions");
+    for (const auto& division : divisions) {
         const QString where = reader.whereIs("divisions") + u' ' + QString::number(plan.divisions.size());
         plan.divisions.push_back(readDivision(PlanReader(where, division), plan.level));
     }
