@@ -31,6 +31,20 @@ function(torvane_stage_game_folder)
         DEPENDS make_help ${help_files}
         COMMENT "Staging SE_README.HLP"
         VERBATIM)
-    add_custom_target(game ALL DEPENDS "${tables}" "${catalogue}" "${help}")
+    # Both languages' scenarios lie side by side, each under its title.
+    file(GLOB scenarios CONFIGURE_DEPENDS "${CMAKE_SOURCE_DIR}/data/scenarios/*/*.scn")
+    set(staged_scenarios "")
+    foreach(scenario IN LISTS scenarios)
+        cmake_path(GET scenario FILENAME name)
+        set(staged "${TORVANE_GAME_DIR}/Scenarios/${name}")
+        add_custom_command(OUTPUT "${staged}"
+            COMMAND ${CMAKE_COMMAND} -E make_directory "${TORVANE_GAME_DIR}/Scenarios"
+            COMMAND ${CMAKE_COMMAND} -E copy "${scenario}" "${staged}"
+            DEPENDS "${scenario}"
+            COMMENT "Staging ${name}"
+            VERBATIM)
+        list(APPEND staged_scenarios "${staged}")
+    endforeach()
+    add_custom_target(game ALL DEPENDS "${tables}" "${catalogue}" "${help}" ${staged_scenarios})
     add_dependencies(game TorvaneScenarioEditor TorvaneScenarioEditor-English)
 endfunction()
