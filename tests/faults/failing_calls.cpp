@@ -33,9 +33,7 @@ struct Watch
     long count = 0;
     bool hasFailed = false;
     Operation failedOperation = Operation::Open;
-    int failedError = 0;
-    Path failedPath{};
-    void (*report)(long, const char*, const char*) = nullptr;
+    void (*report)(const CountedCall&) = nullptr;
 };
 Watch watch; // NOLINT: the calls have no other place to look
 
@@ -103,23 +101,21 @@ bool mustFail(Operation operation, const char* path)
     }
     ++watch.count;
     const OperationRow& row = rowOf(operation);
+    const bool fails = isPlanned(operation);
     if (watch.report != nullptr) {
-        watch.report(watch.count, row.name, path);
+        watch.report({watch.count, row.name, path, fails});
     }
-    if (!isPlanned(operation)) {
+    if (!fails) {
         return false;
     }
-    const int error = row.errors.at(static_cast<std::size_t>(watch.plan.error) % row.errors.size());
     if (!watch.hasFailed) {
         watch.hasFailed = true;
         watch.failedOperation = operation;
-        watch.failedError = error;
-        copyPath(watch.failedPath, path);
     }
     if (watch.plan.what == FailurePlan::What::Kill && operation != Operation::Write) {
         ::kill(::getpid(), SIGKILL);
     }
-    errno = error;
+    errno = row.errors.at(static_cast<std::size_t>(watch.plan.error) % row.errors.size());
     return true;
 }
 
@@ -127,6 +123,12 @@ template <typename Function>
 Function* nextOf(const char* name)
 {
     return reinterpret_cast<Function*>(::dlsym(RTLD_NEXT, name));
+}
+
+/// Whether an open makes a file, and takes the rights of it.
+bool makesFile(int flags)
+{
+    return (flags & O_CREAT) != 0 || (flags & O_TMPFILE) == O_TMPFILE;
 }
 
 template <typename Call>
@@ -138,7 +140,7 @@ int done(Operation operation, const char* path, Call call)
 template <typename Call>
 int opened(const char* path, int flags, Call call)
 {
-    const Operation operation = (flags & O_CREAT) != 0 ? Operation::Make : Operation::Open;
+    const Operation operation = makesFile(flags) ? Operation::Make : Operation::Open;
     if (mustFail(operation, path)) {
         return -1;
     }
@@ -163,10 +165,6 @@ ssize_t written(int file, std::size_t size, Call call)
     return -1;
 }
 
-bool takesMode(int flags)
-{
-    return (flags & O_CREAT) != 0 || (flags & O_TMPFILE) == O_TMPFILE;
-}
 
 } // namespace
 
@@ -183,13 +181,7 @@ long countedCalls()
     return watch.count;
 }
 
-FailedCall failedCall()
-{
-    return {watch.hasFailed ? rowOf(watch.failedOperation).name : nullptr, watch.failedPath.data(),
-            watch.failedError};
-}
-
-void onCall(void (*report)(long number, const char* operation, const char* path))
+void onCall(void (*report)(const CountedCall& call))
 {
     watch.report = report;
 }
@@ -217,7 +209,7 @@ int open(const char* path, int flags, ...)
     static auto* const next = faults::nextOf<int(const char*, int, ...)>("open");
     va_list arguments;
     va_start(arguments, flags);
-    const mode_t mode = faults::takesMode(flags) ? va_arg(arguments, mode_t) : 0;
+    const mode_t mode = faults::makesFile(flags) ? va_arg(arguments, mode_t) : 0;
     va_end(arguments);
     return faults::opened(path, flags, [=] { return next(path, flags, mode); });
 }
@@ -227,7 +219,7 @@ int open64(const char* path, int flags, ...)
     static auto* const next = faults::nextOf<int(const char*, int, ...)>("open64");
     va_list arguments;
     va_start(arguments, flags);
-    const mode_t mode = faults::takesMode(flags) ? va_arg(arguments, mode_t) : 0;
+    const mode_t mode = faults::makesFile(flags) ? va_arg(arguments, mode_t) : 0;
     va_end(arguments);
     return faults::opened(path, flags, [=] { return next(path, flags, mode); });
 }
@@ -359,6 +351,12 @@ int fcntl64(int file, int command, ...)
     const bool locks = command == F_SETLK || command == F_SETLKW || command == F_GETLK;
     return faults::done(Operation::Lock, locks ? faults::openPath(file) : nullptr,
                         [=] { return next(file, command, argument); });
+}
+
+ssize_t readlink(const char* path, char* target, size_t size) noexcept
+{
+    static auto* const next = faults::nextOf<ssize_t(const char*, char*, size_t)>("readlink");
+    return faults::mustFail(Operation::Look, path) ? -1 : next(path, target, size);
 }
 
 int access(const char* path, int mode) noexcept

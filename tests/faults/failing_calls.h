@@ -52,17 +52,16 @@ void watchCalls(const char* folder, const FailurePlan& plan);
 /// Of the folder that is watched.
 long countedCalls();
 
-/// The first operation that failed by plan, or a null name if none has yet.
-struct FailedCall
+/// An operation that is counted, before it is done.
+struct CountedCall
 {
+    long number;
     const char* operation;
     const char* path;
-    int error;
+    bool fails;
 };
-FailedCall failedCall();
-
-/// Runs for each operation that is counted, with its number; must not touch the folder.
-void onCall(void (*report)(long number, const char* operation, const char* path));
+/// Runs for each of them; must not touch the folder.
+void onCall(void (*report)(const CountedCall& call));
 
 /// While one lives, nothing is counted and nothing fails.
 class UnwatchedCalls

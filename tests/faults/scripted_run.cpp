@@ -2,12 +2,13 @@
 // and says what happens:
 //
 //   scripted_run <game folder> [--look] [--fail N | --fail-from N | --kill N] [--error I] [--list]
-//                [--at STEP --do ACTION]
+//                [--at STEP --do ACTION] [--next]
 //
-// Ends with 0 if the program could be left as it should, 3 if it could not, and 70 if it hung.
+// With --next another start follows in which nothing fails, and what it says begins with "next". Ends with 0 if the program could be left as it should, 3 if it could not, and 70 if it hung.
 
 #include "faults/damage.h"
 #include "faults/failing_calls.h"
+#include "faults/scripted_names.h"
 #include "faults/scripted_walk.h"
 #include "overview/overview_frm.h"
 #include "platform/folder_lock.h"
@@ -39,6 +40,12 @@ void say(const QString& line)
     std::fflush(stdout);
 }
 
+void tell(const char* word, const CountedCall& call)
+{
+    std::printf("%s %ld %s %s\n", word, call.number, call.operation, call.path);
+    std::fflush(stdout);
+}
+
 QString oneLine(QString text)
 {
     return text.replace(QLatin1Char('\n'), QStringLiteral(" / "));
@@ -49,6 +56,7 @@ struct Options
     QString folder;
     bool look = false;
     bool list = false;
+    bool next = false;
     FailurePlan plan;
     QString damagedAt;
     QString damage;
@@ -64,6 +72,7 @@ Options optionsFrom(const QStringList& arguments)
     };
     options.look = arguments.contains(QStringLiteral("--look"));
     options.list = arguments.contains(QStringLiteral("--list"));
+    options.next = arguments.contains(QStringLiteral("--next"));
     options.plan.error = valueOf("--error").toInt();
     options.damagedAt = valueOf("--at");
     options.damage = valueOf("--do");
@@ -102,52 +111,77 @@ QStringList namesIn(const QString& folder)
     return QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot, QDir::Name);
 }
 
-int run(const Options& options)
+/// What a run says is put behind a word that tells whose run it is.
+class Run
 {
-    ScriptedServices script;
-    script.messageBoxes.onShow = [&script] {
-        const MessageBox& box = script.messageBoxes.shown.last();
-        say(QStringLiteral("box %1 | %2").arg(oneLine(box.title), oneLine(box.text)));
-        settle(); // a box runs the events of its program
-    };
-    const ToolkitTexts toolkitTexts(Language::English);
-    say(QStringLiteral("step start"));
-    watchCalls(QFile::encodeName(options.folder).constData(), options.plan);
-    const FolderLock lock(pathsBelow(options.folder).workDir);
-    bool left = false;
+public:
+    Run(const Options& options, const QString& lead) : m_options(options), m_lead(lead)
     {
-        Editor editor(options.folder, {.language = Language::English}, script.services());
+        m_script.messageBoxes.onShow = [this] {
+            const MessageBox& box = m_script.messageBoxes.shown.last();
+            tell(QStringLiteral("box %1 | %2").arg(oneLine(box.title), oneLine(box.text)));
+            settle(); // a box runs the events of its program
+        };
+    }
+
+    /// Whether the program could be left.
+    bool walk(bool looksOnly)
+    {
+        tell(QStringLiteral("step start"));
+        const FolderLock lock(pathsBelow(m_options.folder).workDir);
+        Editor editor(m_options.folder, {.language = Language::English}, m_script.services());
         editor.start();
         settle();
-        say(QStringLiteral("work %1").arg(namesIn(pathsBelow(options.folder).workDir).join(u'|')));
-        const auto atStep = [&](const QString& step) {
-            say(QStringLiteral("step %1").arg(step));
-            if (step == options.damagedAt) {
-                const UnwatchedCalls unwatched;
-                say(damage(options.folder, options.damage) ? QStringLiteral("damaged")
-                                                           : QStringLiteral("not damaged"));
-            }
-        };
-        const auto atResult = [&](const QString& step, bool done) {
-            if (!done) {
-                say(QStringLiteral("missed %1").arg(step));
-            }
-            if (step == QStringLiteral("save") || step == QStringLiteral("save as")) {
-                keepExpected(editor, options.folder + QStringLiteral(".") + step);
-            }
-        };
-        ScriptedWalk walk(editor, script, {atStep, atResult});
-        const QString scenarios = pathsBelow(options.folder).scenarioDir;
-        left = options.look ? walk.look() : walk.walk(scenarios + ScriptedWalk::otherName());
+        tell(QStringLiteral("work %1").arg(namesIn(pathsBelow(m_options.folder).workDir).join(u'|')));
+        ScriptedWalk walk(editor, m_script,
+                          {.step = [this](const QString& step) { begin(step); },
+                           .result = [&](const QString& step, bool done) { end(editor, step, done); }});
+        const QString savedAs = pathsBelow(m_options.folder).scenarioDir + QLatin1StringView(scenarioNames.back());
+        return looksOnly ? walk.look() : walk.walk(savedAs);
     }
+
+    void tell(const QString& line) const { say(m_lead + line); }
+
+private:
+    void begin(const QString& step) const
+    {
+        tell(QStringLiteral("step %1").arg(step));
+        if (m_lead.isEmpty() && step == m_options.damagedAt) {
+            const UnwatchedCalls unwatched;
+            tell(damage(m_options.folder, m_options.damage) ? QStringLiteral("damaged")
+                                                            : QStringLiteral("not damaged"));
+        }
+    }
+    void end(Editor& editor, const QString& step, bool done) const
+    {
+        if (!done) {
+            tell(QStringLiteral("missed %1").arg(step));
+        }
+        if (step == QLatin1StringView(saveStep) || step == QLatin1StringView(saveAsStep)) {
+            keepExpected(editor, m_options.folder + QLatin1Char('.') + step);
+        }
+    }
+
+    const Options& m_options;
+    QString m_lead;
+    ScriptedServices m_script;
+};
+
+bool runAsAsked(const Options& options)
+{
+    const ToolkitTexts toolkitTexts(Language::English);
+    Run run(options, QString());
+    watchCalls(QFile::encodeName(options.folder).constData(), options.plan);
+    bool left = run.walk(options.look);
     say(QStringLiteral("calls %1").arg(countedCalls()));
-    if (const FailedCall failed = failedCall(); failed.operation != nullptr) {
-        say(QStringLiteral("failed %1 %2 %3")
-                .arg(QLatin1StringView(failed.operation), QString::number(failed.error),
-                     QFile::decodeName(failed.path)));
+    run.tell(left ? QStringLiteral("left") : QStringLiteral("no way out"));
+    if (options.next) {
+        const UnwatchedCalls unwatched;
+        Run next(options, QStringLiteral("next "));
+        left = next.walk(true) && left;
+        next.tell(left ? QStringLiteral("left") : QStringLiteral("no way out"));
     }
-    say(left ? QStringLiteral("left") : QStringLiteral("no way out"));
-    return left ? 0 : deadEndExit;
+    return left;
 }
 
 } // namespace
@@ -169,10 +203,11 @@ int main(int argc, char** argv)
                            "[--error I] [--list] [--at STEP --do ACTION]"));
         return 2;
     }
-    if (options.list) {
-        onCall([](long number, const char* operation, const char* path) {
-            std::printf("call %ld %s %s\n", number, operation, path);
-        });
-    }
-    return run(options);
+    onCall(options.list ? [](const CountedCall& call) { tell("call", call); }
+                        : [](const CountedCall& call) {
+                              if (call.fails) {
+                                  tell("fails", call);
+                              }
+                          });
+    return runAsAsked(options) ? 0 : deadEndExit;
 }

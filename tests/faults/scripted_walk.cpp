@@ -1,6 +1,7 @@
 #include "faults/scripted_walk.h"
 
 #include "divisions/create_division_frm.h"
+#include "faults/scripted_names.h"
 #include "overview/enviro_frm.h"
 #include "overview/overview_frm.h"
 #include "platform/picture_box.h"
@@ -121,8 +122,8 @@ bool ScriptedWalk::walk(const QString& savedAs)
     step("place B", [this] { return place(false); });
     step("ship", [this] { return damageShip(); });
     step("edit", [this] { return editDivision(); });
-    step("save", [this] { return save(); });
-    step("save as", [&] { return saveAs(savedAs); });
+    step(saveStep, [this] { return save(); });
+    step(saveAsStep, [&] { return saveAs(savedAs); });
     step("exit", [this] { return leave(); });
     return m_editor.hasEnded();
 }
@@ -155,12 +156,13 @@ bool ScriptedWalk::describe()
     if (!isInFront(overview) && !choose(QStringLiteral("mnuOverView"))) {
         return false;
     }
+    const QString title = QFileInfo(QLatin1StringView(scenarioNames.front())).completeBaseName();
     auto* box = find<QLineEdit>(overview, "TxtTitle");
     if (!isInFront(overview) || !canBeUsed(overview, box)) {
         return false;
     }
-    retype(box, title());
-    return box->text() == title();
+    retype(box, title);
+    return box->text() == title;
 }
 
 bool ScriptedWalk::setWeather()

@@ -31,10 +31,6 @@ public:
 
     ScriptedWalk(Editor& editor, ScriptedServices& script, Watcher watcher);
 
-    /// Titles, and so file names, of what is saved.
-    static QString title() { return QStringLiteral("First"); }
-    static QString otherName() { return QStringLiteral("Second.scn"); }
-
     /// The whole road; true if it ended the program. `savedAs` is the full path that Save As is given.
     bool walk(const QString& savedAs);
     /// No more than the start, New and the end.
