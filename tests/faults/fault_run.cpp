@@ -25,7 +25,8 @@ void take(RunReport& report, const QString& line, QString& step)
     } else if (word == QStringLiteral("missed")) {
         report.missed.append(rest);
     } else if (word == QStringLiteral("box")) {
-        if (!rest.startsWith(QStringLiteral("Exit Scenario Editor"))) {
+        if (!rest.startsWith(QStringLiteral("Exit Scenario Editor")) &&
+            !rest.startsWith(QStringLiteral("File Saved"))) {
             report.boxes.append({step, rest});
         }
     } else if (word == QStringLiteral("work")) {

@@ -25,7 +25,7 @@ struct RunReport
     QString said;       ///< all of it
     QStringList steps;  ///< that were begun
     QStringList missed; ///< that had no effect
-    QList<Box> boxes;   ///< but for the question at the end
+    QList<Box> boxes;   ///< but for the question at the end and the success of Save As
     QStringList workFiles;
     long calls = 0;
     QString failedOperation;

@@ -9,6 +9,7 @@
 #include <QRegularExpression>
 
 #include <algorithm>
+#include <utility>
 
 namespace torvane::testing {
 
@@ -90,6 +91,23 @@ QStringList complaintsAboutBoxes(const RunReport& run, const QString& folder, co
         return {};
     }
     return {untold(run, lost.join(QStringLiteral(", ")))};
+}
+
+/// A file that was there is replaced only by who has been asked.
+QStringList complaintsAboutQuestions(const RunReport& run, const QString& folder)
+{
+    const ScenarioBytes saved = savedScenarios(folder);
+    QStringList complaints;
+    for (const auto& [step, bytes] : {std::pair{saveStep, saved.first}, std::pair{saveAsStep, saved.second}}) {
+        const bool isAsked = std::ranges::any_of(run.boxes, [step = step](const RunReport::Box& box) {
+            return box.step == QLatin1StringView(step) && box.text.startsWith(QStringLiteral("Filename Warning!"));
+        });
+        if (bytes != StagedGame::oldBytes() && !isAsked) {
+            complaints.append(QStringLiteral("an old file was replaced without a question: ") +
+                              QLatin1StringView(step));
+        }
+    }
+    return complaints;
 }
 
 } // namespace
@@ -179,6 +197,9 @@ QStringList complaintsAbout(const RunReport& run, const QString& folder, bool ha
         complaints.append(QStringLiteral("left in Scenarios: ") + name);
     }
     complaints += complaintsAboutBoxes(run, folder, undisturbed);
+    if (hadOldScenarios) {
+        complaints += complaintsAboutQuestions(run, folder);
+    }
     return complaints;
 }
 

@@ -23,6 +23,8 @@
 
 #include <csignal>
 #include <cstdio>
+#include <ctime>
+#include <dlfcn.h>
 #include <unistd.h>
 
 namespace torvane::testing {
@@ -187,6 +189,20 @@ bool runAsAsked(const Options& options)
 } // namespace
 
 } // namespace torvane::testing
+
+/// The clock by which the editor tells whether a file's time stamp can still hide a change stands back, so that
+/// none can: how often the road reads its files must not hang on how fast it is walked.
+extern "C" int clock_gettime(clockid_t clock, timespec* time) noexcept
+{
+    constexpr time_t setBack = 10;
+    static auto* const next =
+        reinterpret_cast<int (*)(clockid_t, timespec*)>(::dlsym(RTLD_NEXT, "clock_gettime"));
+    const int result = next(clock, time);
+    if (result == 0 && clock == CLOCK_REALTIME_COARSE) {
+        time->tv_sec -= setBack;
+    }
+    return result;
+}
 
 int main(int argc, char** argv)
 {

@@ -40,9 +40,23 @@ std::vector<RoadCall> callsOf(const QString& said)
     return calls;
 }
 
-/// A file's name without the numbers of divisions and of files that are being written.
-QString kindOf(QString file)
+/// A step without the force it is about.
+QString kindOfStep(const QString& step)
 {
+    static const QRegularExpression force(QStringLiteral(" [AB]\\z"));
+    return QString(step).remove(force);
+}
+
+/// A file's name without the numbers of divisions and of files that are being written. All that the clean-up
+/// deletes is one.
+QString kindOfFile(const RoadCall& call)
+{
+    static const QStringList cleaningSteps{QStringLiteral("start"), QStringLiteral("new"), QStringLiteral("exit")};
+    if (call.operation == QStringLiteral("delete") && cleaningSteps.contains(call.step) &&
+        !call.file.startsWith(QLatin1Char('.')) && call.file != QStringLiteral("iniTemp.bmm")) {
+        return {};
+    }
+    QString file = call.file;
     static const QRegularExpression beingWritten(QStringLiteral("(\\.torvane-|\\.)[A-Za-z0-9]{6}\\z"));
     static const QRegularExpression division(QStringLiteral("[AB][0-9]+\\.txt\\z"));
     return file.replace(beingWritten, QStringLiteral(".new")).replace(division, QStringLiteral(".txt"));
@@ -82,7 +96,7 @@ Sweep::Sweep(bool withOldScenarios) : m_withOldScenarios(withOldScenarios)
     m_duration = static_cast<long>(timer.nsecsElapsed() / 1000);
     m_game.stage(folder, withOldScenarios);
     const RunReport run = runRoad(folder, {QStringLiteral("--list"), QStringLiteral("--next")});
-    m_steps = run.steps;
+    m_steps = run.steps.mid(1);
     m_calls = callsOf(run.said.section(QLatin1Char('\n') + nextLead, 0, 0));
     m_undisturbed = savedScenarios(folder);
     // What is compared with later must be right itself.
@@ -103,7 +117,7 @@ std::vector<RoadCall> Sweep::distinctCalls() const
     std::vector<RoadCall> distinct;
     std::set<QString> known;
     for (const RoadCall& call : m_calls) {
-        if (known.insert(call.step + u'|' + call.operation + u'|' + kindOf(call.file)).second) {
+        if (known.insert(kindOfStep(call.step) + u'|' + call.operation + u'|' + kindOfFile(call)).second) {
             distinct.push_back(call);
         }
     }

@@ -46,11 +46,12 @@ public:
     explicit Sweep(bool withOldScenarios);
 
     const std::vector<RoadCall>& calls() const { return m_calls; }
+    /// But for the start itself.
     const QStringList& steps() const { return m_steps; }
     /// How long the undisturbed road takes, in microseconds.
     long duration() const { return m_duration; }
-    /// One call of each kind: those with the same operation on the same file in one step, where the files
-    /// of several divisions are one, count once.
+    /// One call of each kind: those with the same operation on the same file in one step count once, where
+    /// the steps of both forces are one, the files of several divisions, and all that a clean-up deletes.
     std::vector<RoadCall> distinctCalls() const;
 
     /// Each of these calls fails in a run of its own. `error` gives which of the operation's errors.
