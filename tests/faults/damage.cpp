@@ -40,11 +40,8 @@ bool damage(const QString& folder, const QString& what)
     if (what == QStringLiteral("work folder removed")) {
         return QDir(work).exists() && QDir(work).removeRecursively();
     }
-    if (what == QStringLiteral("scenarios removed")) {
-        QDir scenarios(folder + QStringLiteral("/Scenarios"));
-        return scenarios.exists() && scenarios.removeRecursively();
-    }
-    return what == QStringLiteral("profile removed") && QFile::remove(work + QStringLiteral("/iniTemp.bmm"));
+    QDir scenarios(folder + QStringLiteral("/Scenarios"));
+    return what == QStringLiteral("scenarios removed") && scenarios.exists() && scenarios.removeRecursively();
 }
 
 } // namespace torvane::testing

@@ -7,9 +7,9 @@
 namespace torvane::testing {
 
 /// What happens to a game folder behind the editor's back.
-inline constexpr std::array<const char*, 8> damages{
+inline constexpr std::array<const char*, 7> damages{
     "catalogue replaced", "catalogue overwritten", "catalogue emptied", "catalogue cut",
-    "catalogue deleted",  "work folder removed",   "scenarios removed", "profile removed"};
+    "catalogue deleted",  "work folder removed",   "scenarios removed"};
 
 /// Does one of them to a game folder; beside that lies "<folder>.other.mdb", another ship catalogue. Returns
 /// whether there was something to damage.

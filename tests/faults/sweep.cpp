@@ -214,7 +214,7 @@ QStringList Sweep::runOne(const Job& job, const QString& folder, SweepResult::Co
         return judgeKilled(run, folder);
     }
     if (job.isDamage) {
-        return judgeDamaged(run, folder);
+        return judgeDamaged(job, run, folder);
     }
     QStringList complaints = complaintsAbout(run, folder, m_withOldScenarios, m_undisturbed);
     if (run.failedOperation.isEmpty()) {
@@ -241,18 +241,19 @@ QStringList Sweep::judgeKilled(const RunReport& run, const QString& folder) cons
     return complaints;
 }
 
-// Removed folders are no editor's to make again: its user installs it anew.
-QStringList Sweep::judgeDamaged(const RunReport& run, const QString& folder) const
+// Another catalogue has other ships, and a folder that is gone has taken its scenarios along: neither is a
+// loss of the editor's. Removed folders are not its to make again: its user installs it anew.
+QStringList Sweep::judgeDamaged(const Job& job, const RunReport& run, const QString& folder) const
 {
     QStringList complaints;
-    if (run.end != RunReport::End::Left) {
-        complaints.append(QStringLiteral("it doesn't end as it should:\n") + run.said);
+    if (run.end != RunReport::End::Left || !run.damaged) {
+        complaints.append(QStringLiteral("it doesn't go as it should:\n") + run.said);
     }
-    const bool folderIsGone = !QFileInfo::exists(folder + QStringLiteral("/Scenarios"));
-    complaints += complaintsAboutScenarios(folder, m_withOldScenarios && !folderIsGone, expectedScenarios(folder));
-    const ScenarioBytes saved = savedScenarios(folder);
-    const bool lost = !run.missed.isEmpty() || saved.second != m_undisturbed.second;
-    if (lost && run.boxes.isEmpty()) {
+    const bool isGone = job.kind == QStringLiteral("scenarios removed");
+    complaints += complaintsAboutScenarios(folder, m_withOldScenarios && !isGone, expectedScenarios(folder));
+    const bool isOther = isGone || job.kind == QStringLiteral("catalogue replaced");
+    const bool isLost = !isOther && savedScenarios(folder).second != m_undisturbed.second;
+    if ((isLost || !run.missed.isEmpty()) && run.boxes.isEmpty()) {
         complaints.append(QStringLiteral("no box, although this was lost: ") +
                           run.missed.join(QStringLiteral(", ")));
     }

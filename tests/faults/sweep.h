@@ -75,7 +75,7 @@ private:
     SweepResult runAll(const std::vector<Job>& jobs) const;
     QStringList runOne(const Job& job, const QString& folder, SweepResult::Count& count) const;
     QStringList judgeKilled(const RunReport& run, const QString& folder) const;
-    QStringList judgeDamaged(const RunReport& run, const QString& folder) const;
+    QStringList judgeDamaged(const Job& job, const RunReport& run, const QString& folder) const;
 
     StagedGame m_game;
     QTemporaryDir m_scratch;
