@@ -88,8 +88,8 @@ struct ProfileStore::File
     std::optional<Stamp> stamp; ///< of the bytes in `profile`; nothing if they must be read anew
     quint64 checkedIn = 0;      ///< the batch in which the disk was last looked at
     bool isThere = false;       ///< a file of that name is on disk
-    bool isUnread = false;      ///< it may be, but was never read: `profile` holds only what was written since
-    bool isKnown = false;       ///< it has been read or written, or was found missing
+    bool isUnread = false; ///< it may be, but was never read: `profile` holds only what was written since
+    bool isKnown = false;  ///< it has been read or written, or was found missing
     bool hasUnsavedWrites = false;
     bool isFailing = false; ///< a failure to save has been reported, and no success followed
 

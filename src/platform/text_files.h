@@ -18,8 +18,9 @@ bool isThere(const QString& path);
 QByteArray readWholeFile(const QString& path);
 
 /// Puts a file in place whole: written beside it under a hidden name, synced, renamed over it, and the folder
-/// synced, so that a crash at any moment leaves the old bytes or the new ones. An old file keeps its rights and
-/// the links to it. Throws RuntimeError, also where the old file may not be written, and leaves that as it was.
+/// synced, so that a crash at any moment leaves the old bytes or the new ones. An old file keeps its rights
+/// and the links to it. Throws RuntimeError, also where the old file may not be written, and leaves that as
+/// it was.
 void writeWholeFile(const QString& path, QByteArrayView bytes);
 
 /// The same without waiting for the disk, for files that no one needs after a crash: readers find the old
@@ -34,8 +35,8 @@ void deleteFile(const QString& path);
 /// nothing behind.
 void requireWritableFolder(const QString& folder);
 
-/// Deletes what a program that was killed in the middle of `writeWholeFile` or `requireWritableFolder` has left
-/// in a folder. A file that can't be deleted stays.
+/// Deletes what a program that was killed in the middle of `writeWholeFile` or `requireWritableFolder` has
+/// left in a folder. A file that can't be deleted stays.
 void removeUnfinishedFiles(const QString& folder);
 
 } // namespace torvane

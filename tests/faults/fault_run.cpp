@@ -33,10 +33,9 @@ void take(RunReport& report, const QString& line, QString& step)
         report.workFiles = rest.split(QLatin1Char('|'), Qt::SkipEmptyParts);
     } else if (word == QStringLiteral("calls")) {
         report.calls = rest.toLong();
-    } else if (word == QStringLiteral("fails") && report.failedOperation.isEmpty()) {
-        report.failedStep = step;
-        report.failedOperation = rest.section(QLatin1Char(' '), 1, 1);
-        report.failedPath = rest.section(QLatin1Char(' '), 2);
+    } else if (word == QStringLiteral("fails")) {
+        report.failures.append(
+            {step, rest.section(QLatin1Char(' '), 1, 1), rest.section(QLatin1Char(' '), 2)});
     } else if (word == QStringLiteral("damaged")) {
         report.damaged = true;
     }

@@ -15,6 +15,12 @@ struct RunReport
         Crashed,
         Killed ///< as it was meant to
     };
+    struct Failure
+    {
+        QString step;
+        QString operation;
+        QString path;
+    };
     struct Box
     {
         QString step;
@@ -22,15 +28,13 @@ struct RunReport
     };
 
     End end = End::Left;
-    QString said;       ///< all of it
-    QStringList steps;  ///< that were begun
-    QStringList missed; ///< that had no effect
-    QList<Box> boxes;   ///< but for the question at the end and the success of Save As
-    QStringList workFiles;
+    QString said{};       ///< all of it
+    QStringList steps{};  ///< that were begun
+    QStringList missed{}; ///< that had no effect
+    QList<Box> boxes{};   ///< but for the question at the end and the success of Save As
+    QStringList workFiles{};
     long calls = 0;
-    QString failedOperation;
-    QString failedPath;
-    QString failedStep;
+    QList<Failure> failures{}; ///< operations that were made to fail
     bool damaged = false;
 };
 

@@ -1,5 +1,6 @@
 // The long form of the fault harness, by hand: every operation of the road with every error, once and for the
-// rest of the run, the program killed at each and at random moments, and its game folder damaged at every step.
+// rest of the run, the program killed at each and at random moments, and its game folder damaged at every
+// step.
 //
 //   fault_sweep [--short] [--kills N] [--seed S] [--only fail|lasting|killed|random|damage]
 
@@ -17,7 +18,8 @@ namespace {
 
 void print(const char* title, const SweepResult& result, const QElapsedTimer& timer)
 {
-    std::printf("\n%s: %ld runs, %lld s\n", title, result.runs(), static_cast<long long>(timer.elapsed() / 1000));
+    std::printf("\n%s: %ld runs, %lld s\n", title, result.runs(),
+                static_cast<long long>(timer.elapsed() / 1000));
     for (const auto& [kind, count] : result.counts) {
         std::printf("  %-24s %6ld runs %6ld with a box %4ld bad\n", kind.toUtf8().constData(), count.runs,
                     count.withBoxes, count.complaints);

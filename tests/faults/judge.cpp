@@ -50,47 +50,53 @@ QString finalName(const QString& path)
 }
 
 /// Whether a box names what failed: the file, or, where that has no name of its own yet, one of its folder.
-bool isNamed(const RunReport& run, const QString& folder)
+bool names(const RunReport::Box& box, const RunReport::Failure& failure, const QString& folder)
 {
-    const QString name = finalName(run.failedPath);
-    const bool isFolder = QFileInfo(run.failedPath).isDir() || name.startsWith(QLatin1Char('.'));
-    return std::ranges::any_of(run.boxes, [&](const RunReport::Box& box) {
-        return box.text.contains(isFolder ? folder + QLatin1Char('/') : name);
-    });
+    const QString name = finalName(failure.path);
+    const bool isFolder = QFileInfo(failure.path).isDir() || name.startsWith(QLatin1Char('.'));
+    return box.text.contains(isFolder ? folder + QLatin1Char('/') : name);
 }
 
 /// Save As has a box of its own, which names nothing.
-bool hasSaveAsBox(const RunReport& run)
+bool isOfSaveAs(const RunReport::Box& box)
 {
-    return std::ranges::any_of(run.boxes, [](const RunReport::Box& box) {
-        return box.step == QLatin1StringView(saveAsStep) &&
-               box.text.contains(QStringLiteral("An Error occured when the file was saved."));
+    return box.step == QLatin1StringView(saveAsStep) &&
+           box.text.contains(QStringLiteral("An Error occured when the file was saved."));
+}
+
+/// Whether the user knows of a failure by the end of a step.
+bool isToldBy(const RunReport& run, const QString& step, const QString& folder)
+{
+    const qsizetype end = run.steps.indexOf(step);
+    return std::ranges::any_of(run.boxes, [&](const RunReport::Box& box) {
+        const bool namesOne = std::ranges::any_of(
+            run.failures, [&](const RunReport::Failure& failure) { return names(box, failure, folder); });
+        return (namesOne || isOfSaveAs(box)) && run.steps.indexOf(box.step) <= end;
     });
 }
 
-QString untold(const RunReport& run, const QString& what)
+QStringList complaintsAboutBoxes(const RunReport& run, const QString& folder,
+                                 const ScenarioBytes& undisturbed)
 {
-    return QStringLiteral("no box tells of %1 (%2 of %3 in step %4)")
-        .arg(what, run.failedOperation, run.failedPath, run.failedStep);
-}
-
-QStringList complaintsAboutBoxes(const RunReport& run, const QString& folder, const ScenarioBytes& undisturbed)
-{
-    const QString saveAs = QLatin1StringView(saveAsStep);
+    QStringList untold;
+    for (const QString& step : run.missed) {
+        if (!isToldBy(run, step, folder)) {
+            untold.append(step);
+        }
+    }
     const ScenarioBytes saved = savedScenarios(folder);
-    QStringList lost = run.missed;
+    const RunReport::Failure first = run.failures.value(0);
     // Save tells of nothing.
-    if (run.failedStep != QLatin1StringView(saveStep) &&
-        saved.first != undisturbed.first) {
-        lost.append(QStringLiteral("another first scenario"));
+    const bool isOther = (first.step != QLatin1StringView(saveStep) && saved.first != undisturbed.first) ||
+                         saved.second != undisturbed.second;
+    if (isOther && !isToldBy(run, QLatin1StringView(saveAsStep), folder)) {
+        untold.append(QStringLiteral("other scenarios than they should be"));
     }
-    if (saved.second != undisturbed.second) {
-        lost.append(QStringLiteral("another second scenario"));
-    }
-    if (lost.isEmpty() || isNamed(run, folder) || (run.failedStep == saveAs && hasSaveAsBox(run))) {
+    if (untold.isEmpty()) {
         return {};
     }
-    return {untold(run, lost.join(QStringLiteral(", ")))};
+    return {QStringLiteral("no box tells of: %1 (%2 of %3 in step %4)")
+                .arg(untold.join(QStringLiteral(", ")), first.operation, first.path, first.step)};
 }
 
 /// A file that was there is replaced only by who has been asked.
@@ -98,9 +104,11 @@ QStringList complaintsAboutQuestions(const RunReport& run, const QString& folder
 {
     const ScenarioBytes saved = savedScenarios(folder);
     QStringList complaints;
-    for (const auto& [step, bytes] : {std::pair{saveStep, saved.first}, std::pair{saveAsStep, saved.second}}) {
+    for (const auto& [step, bytes] :
+         {std::pair{saveStep, saved.first}, std::pair{saveAsStep, saved.second}}) {
         const bool isAsked = std::ranges::any_of(run.boxes, [step = step](const RunReport::Box& box) {
-            return box.step == QLatin1StringView(step) && box.text.startsWith(QStringLiteral("Filename Warning!"));
+            return box.step == QLatin1StringView(step) &&
+                   box.text.startsWith(QStringLiteral("Filename Warning!"));
         });
         if (bytes != StagedGame::oldBytes() && !isAsked) {
             complaints.append(QStringLiteral("an old file was replaced without a question: ") +
@@ -157,7 +165,8 @@ QStringList complaintsAboutScenarios(const QString& folder, bool hadOldScenarios
 
 QStringList strayScenarios(const QString& folder)
 {
-    static const QRegularExpression recovered(QStringLiteral("\\((recovered|wiederhergestellt)\\b.*\\.scn\\z"));
+    static const QRegularExpression recovered(
+        QStringLiteral("\\((recovered|wiederhergestellt)\\b.*\\.scn\\z"));
     QStringList names = QDir(folder + QStringLiteral("/Scenarios"))
                             .entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot, QDir::Name);
     for (const char* name : scenarioNames) {

@@ -4,7 +4,8 @@
 //   scripted_run <game folder> [--look] [--fail N | --fail-from N | --kill N] [--error I] [--list]
 //                [--at STEP --do ACTION] [--next]
 //
-// With --next another start follows in which nothing fails, and what it says begins with "next". Ends with 0 if the program could be left as it should, 3 if it could not, and 70 if it hung.
+// With --next another start follows in which nothing fails, and what it says begins with "next". Ends with 0
+// if the program could be left as it should, 3 if it could not, and 70 if it hung.
 
 #include "faults/damage.h"
 #include "faults/failing_calls.h"
@@ -138,7 +139,8 @@ public:
         ScriptedWalk walk(editor, m_script,
                           {.step = [this](const QString& step) { begin(step); },
                            .result = [&](const QString& step, bool done) { end(editor, step, done); }});
-        const QString savedAs = pathsBelow(m_options.folder).scenarioDir + QLatin1StringView(scenarioNames.back());
+        const QString savedAs =
+            pathsBelow(m_options.folder).scenarioDir + QLatin1StringView(scenarioNames.back());
         return looksOnly ? walk.look() : walk.walk(savedAs);
     }
 
@@ -190,8 +192,8 @@ bool runAsAsked(const Options& options)
 
 } // namespace torvane::testing
 
-/// The clock by which the editor tells whether a file's time stamp can still hide a change stands back, so that
-/// none can: how often the road reads its files must not hang on how fast it is walked.
+/// The clock by which the editor tells whether a file's time stamp can still hide a change stands back, so
+/// that none can: how often the road reads its files must not hang on how fast it is walked.
 extern "C" int clock_gettime(clockid_t clock, timespec* time) noexcept
 {
     constexpr time_t setBack = 10;
@@ -219,11 +221,10 @@ int main(int argc, char** argv)
                            "[--error I] [--list] [--at STEP --do ACTION]"));
         return 2;
     }
-    onCall(options.list ? [](const CountedCall& call) { tell("call", call); }
-                        : [](const CountedCall& call) {
-                              if (call.fails) {
-                                  tell("fails", call);
-                              }
-                          });
+    onCall(options.list ? [](const CountedCall& call) { tell("call", call); } : [](const CountedCall& call) {
+        if (call.fails) {
+            tell("fails", call);
+        }
+    });
     return runAsAsked(options) ? 0 : deadEndExit;
 }

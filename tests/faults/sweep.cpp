@@ -51,7 +51,8 @@ QString kindOfStep(const QString& step)
 /// deletes is one.
 QString kindOfFile(const RoadCall& call)
 {
-    static const QStringList cleaningSteps{QStringLiteral("start"), QStringLiteral("new"), QStringLiteral("exit")};
+    static const QStringList cleaningSteps{QStringLiteral("start"), QStringLiteral("new"),
+                                           QStringLiteral("exit")};
     if (call.operation == QStringLiteral("delete") && cleaningSteps.contains(call.step) &&
         !call.file.startsWith(QLatin1Char('.')) && call.file != QStringLiteral("iniTemp.bmm")) {
         return {};
@@ -101,14 +102,14 @@ Sweep::Sweep(bool withOldScenarios) : m_withOldScenarios(withOldScenarios)
     m_undisturbed = savedScenarios(folder);
     // What is compared with later must be right itself.
     const RunReport next = reportOf(run.said, nextLead);
-    const QStringList complaints =
-        complaintsAbout(run, folder, withOldScenarios, m_undisturbed) + complaintsAboutNextStart(next) + run.missed;
+    const QStringList complaints = complaintsAbout(run, folder, withOldScenarios, m_undisturbed) +
+                                   complaintsAboutNextStart(next) + run.missed;
     const ScenarioBytes expected = expectedScenarios(folder);
     if (!complaints.isEmpty() || run.calls != std::ssize(m_calls) || m_undisturbed.first.isEmpty() ||
         m_undisturbed.first != expected.first || m_undisturbed.second != expected.second) {
-        throw std::runtime_error("the road can't be walked undisturbed: " +
-                                 complaints.join(QStringLiteral("; ")).toStdString() + "\n" +
-                                 run.said.toStdString());
+        throw std::runtime_error(
+            "the road can't be walked undisturbed: " + complaints.join(QStringLiteral("; ")).toStdString() +
+            "\n" + run.said.toStdString());
     }
 }
 
@@ -193,11 +194,11 @@ SweepResult Sweep::runAll(const std::vector<Job>& jobs) const
         sum.withBoxes += count.withBoxes;
         sum.complaints += complaints.isEmpty() ? 0 : 1;
         for (const QString& complaint : complaints) {
-            result.findings.append(QStringLiteral("%1 [%2%3]: %4")
-                                       .arg(job.kind, job.options.join(QLatin1Char(' ')),
-                                            job.killAfter < 0 ? QString()
-                                                              : QStringLiteral("after %1 us").arg(job.killAfter),
-                                            complaint));
+            result.findings.append(
+                QStringLiteral("%1 [%2%3]: %4")
+                    .arg(job.kind, job.options.join(QLatin1Char(' ')),
+                         job.killAfter < 0 ? QString() : QStringLiteral("after %1 us").arg(job.killAfter),
+                         complaint));
         }
     });
     return result;
@@ -217,7 +218,7 @@ QStringList Sweep::runOne(const Job& job, const QString& folder, SweepResult::Co
         return judgeDamaged(job, run, folder);
     }
     QStringList complaints = complaintsAbout(run, folder, m_withOldScenarios, m_undisturbed);
-    if (run.failedOperation.isEmpty()) {
+    if (run.failures.isEmpty()) {
         complaints.append(QStringLiteral("nothing failed"));
     }
     if (run.end == RunReport::End::Left) {
