@@ -21,8 +21,8 @@ void print(const char* title, const SweepResult& result, const QElapsedTimer& ti
     std::printf("\n%s: %ld runs, %lld s\n", title, result.runs(),
                 static_cast<long long>(timer.elapsed() / 1000));
     for (const auto& [kind, count] : result.counts) {
-        std::printf("  %-24s %6ld runs %6ld with a box %4ld bad\n", kind.toUtf8().constData(), count.runs,
-                    count.withBoxes, count.complaints);
+        std::printf("  %-24s %6ld runs %6ld with a box %6ld killed %4ld bad\n", kind.toUtf8().constData(),
+                    count.runs, count.withBoxes, count.killed, count.complaints);
     }
     for (const QString& finding : result.findings) {
         std::printf("  FINDING %s\n", finding.toUtf8().constData());

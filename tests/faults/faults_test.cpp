@@ -95,17 +95,31 @@ TEST(Faults, AnOperationThatFailsLosesNothingUntoldAndTheNextStartIsClean)
     expectClean(road().fail(calls, FailurePlan::What::Fail, inTurn), calls.size());
 }
 
+TEST(Faults, OperationsThatFailFromThenOnAreToldAndTheNextStartIsClean)
+{
+    const std::vector<RoadCall> calls =
+        firstOfEach({QStringLiteral("open"), QStringLiteral("read"), QStringLiteral("make"),
+                     QStringLiteral("write"), QStringLiteral("rename"), QStringLiteral("delete")},
+                    5);
+    ASSERT_GT(calls.size(), 15U);
+    expectClean(road().fail(calls, FailurePlan::What::FailFrom, inTurn), calls.size());
+}
+
 TEST(Faults, AProgramThatDiesAtAWriteLeavesOldFilesOrNewOnesAndTheNextStartIsClean)
 {
     const std::vector<RoadCall> calls = callsToDieAt();
     ASSERT_GT(calls.size(), 15U);
-    expectClean(road().killAt(calls), calls.size());
+    const SweepResult result = road().killAt(calls);
+    expectClean(result, calls.size());
+    EXPECT_EQ(result.killed(), result.runs());
 }
 
 TEST(Faults, AProgramKilledAtAnyMomentLeavesOldFilesOrNewOnesAndTheNextStartIsClean)
 {
     constexpr int kills = 50;
-    expectClean(road().killAtRandom(kills, seed), kills);
+    const SweepResult result = road().killAtRandom(kills, seed);
+    expectClean(result, kills);
+    EXPECT_GT(result.killed(), kills / 2) << "the runs ended before they were killed";
 }
 
 TEST(Faults, ADamagedGameFolderLosesNothingUntoldAndCanBeRepaired)

@@ -78,13 +78,13 @@ void inParallel(std::size_t count, const std::function<void(std::size_t job, int
 
 } // namespace
 
-long SweepResult::runs() const
+long SweepResult::sum(long Count::*number) const
 {
-    long sum = 0;
+    long total = 0;
     for (const auto& [kind, count] : counts) {
-        sum += count.runs;
+        total += count.*number;
     }
-    return sum;
+    return total;
 }
 
 Sweep::Sweep(bool withOldScenarios) : m_withOldScenarios(withOldScenarios)
@@ -192,6 +192,7 @@ SweepResult Sweep::runAll(const std::vector<Job>& jobs) const
         SweepResult::Count& sum = result.counts[job.kind];
         ++sum.runs;
         sum.withBoxes += count.withBoxes;
+        sum.killed += count.killed;
         sum.complaints += complaints.isEmpty() ? 0 : 1;
         for (const QString& complaint : complaints) {
             result.findings.append(
@@ -211,6 +212,7 @@ QStringList Sweep::runOne(const Job& job, const QString& folder, SweepResult::Co
     const RunReport run =
         runRoad(folder, isKill || job.isDamage ? job.options : job.options + nextOption, job.killAfter);
     count.withBoxes = run.boxes.isEmpty() ? 0 : 1;
+    count.killed = run.end == RunReport::End::Killed ? 1 : 0;
     if (isKill) {
         return judgeKilled(run, folder);
     }

@@ -30,11 +30,17 @@ struct SweepResult
     {
         long runs = 0;
         long withBoxes = 0;
+        long killed = 0;
         long complaints = 0;
     };
     std::map<QString, Count> counts; ///< by operation, damage, or kind of kill
     QStringList findings;            ///< each with how to run it again
-    long runs() const;
+
+    long runs() const { return sum(&Count::runs); }
+    long killed() const { return sum(&Count::killed); }
+
+private:
+    long sum(long Count::*number) const;
 };
 
 /// Runs the road again and again, with something else failing each time, two programs at a time, and judges
