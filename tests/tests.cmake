@@ -2,9 +2,10 @@
 #   CORE: links torvane_core alone, runs without a display.
 #   PROGRAMS: runs built programs, which CI tries as users get them too; `ctest -L programs` runs these alone.
 #   WINDOWS: links torvane_editor, runs on the offscreen platform; SCALE n makes its screen n times as dense.
+#   TIMEOUT n: seconds that a test may take, 120 where nothing is said.
 # Headers that most tests need are compiled once a program, but not under a compiler cache, which saves more.
 function(torvane_add_tests name)
-    cmake_parse_arguments(arg "CORE;PROGRAMS;WINDOWS" "SCALE" "SOURCES" ${ARGN})
+    cmake_parse_arguments(arg "CORE;PROGRAMS;WINDOWS" "SCALE;TIMEOUT" "SOURCES" ${ARGN})
     add_executable(${name} ${arg_SOURCES})
     target_link_libraries(${name} PRIVATE GTest::gmock torvane_warnings)
     target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR}/tests)
@@ -35,9 +36,12 @@ function(torvane_add_tests name)
     elseif(arg_CORE)
         set_property(GLOBAL APPEND PROPERTY torvane_core_tests ${name})
     endif()
+    if(NOT arg_TIMEOUT)
+        set(arg_TIMEOUT 120)
+    endif()
     gtest_discover_tests(${name}
         TEST_PREFIX "${prefix}"
         DISCOVERY_MODE PRE_TEST
         DISCOVERY_TIMEOUT 60
-        PROPERTIES TIMEOUT 120 ENVIRONMENT QT_QPA_PLATFORM=offscreen ${scale} ${labels})
+        PROPERTIES TIMEOUT ${arg_TIMEOUT} ENVIRONMENT QT_QPA_PLATFORM=offscreen ${scale} ${labels})
 endfunction()

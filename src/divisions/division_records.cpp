@@ -6,8 +6,6 @@
 #include "ship_selection/ship_record.h"
 #include "store/profile_keys.h"
 
-#include <QFileInfo>
-
 namespace torvane {
 
 namespace {
@@ -19,11 +17,6 @@ constexpr int sourceNameLength = 13;
 constexpr int snapshotPlaces = 10;
 
 constexpr const char* scenarioInfo = "SCENARIOINFO ";
-
-bool isThere(const QString& path)
-{
-    return QFileInfo::exists(path);
-}
 
 QString divisionName(const QString& number)
 {

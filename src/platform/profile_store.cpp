@@ -10,6 +10,7 @@
 #include <QHash>
 
 #include <algorithm>
+#include <cerrno>
 #include <ctime>
 #include <fcntl.h>
 #include <optional>
@@ -42,18 +43,29 @@ struct Stamp
     bool operator==(const Stamp&) const = default;
 };
 
-/// The stamp of a regular file; nothing if there is none of that name.
-std::optional<Stamp> stampOf(const QByteArray& path)
+/// What a look at a name shows.
+struct Sight
+{
+    std::optional<Stamp> stamp; ///< of the regular file of that name; nothing if there is none
+    bool isClear = true;        ///< the system could tell
+};
+
+Sight lookAt(const QByteArray& path)
 {
     // The system would take a name up to a zero byte for the whole.
+    if (path.isEmpty() || path.contains('\0')) {
+        return {};
+    }
     struct statx status = {};
-    if (path.contains('\0') || ::statx(AT_FDCWD, path.constData(), 0, STATX_BASIC_STATS, &status) != 0 ||
-        !S_ISREG(status.stx_mode)) {
-        return std::nullopt;
+    if (::statx(AT_FDCWD, path.constData(), 0, STATX_BASIC_STATS, &status) != 0) {
+        return {.stamp = std::nullopt, .isClear = isMissing(errno)};
+    }
+    if (!S_ISREG(status.stx_mode)) {
+        return {};
     }
     const std::uint64_t device = (std::uint64_t{status.stx_dev_major} << 32) | status.stx_dev_minor;
-    return Stamp{nanoseconds(status.stx_mtime), nanoseconds(status.stx_ctime), status.stx_size,
-                 status.stx_ino, device};
+    return {.stamp = Stamp{nanoseconds(status.stx_mtime), nanoseconds(status.stx_ctime), status.stx_size,
+                           status.stx_ino, device}};
 }
 
 /// Whether a change that follows the stamp would show in another stamp.
@@ -76,7 +88,8 @@ struct ProfileStore::File
     std::optional<Stamp> stamp; ///< of the bytes in `profile`; nothing if they must be read anew
     quint64 checkedIn = 0;      ///< the batch in which the disk was last looked at
     bool isThere = false;       ///< a file of that name is on disk
-    bool isUnread = false;      ///< it is, but could not be read: `profile` holds only what was written since
+    bool isUnread = false; ///< it may be, but was never read: `profile` holds only what was written since
+    bool isKnown = false;  ///< it has been read or written, or was found missing
     bool hasUnsavedWrites = false;
     bool isFailing = false; ///< a failure to save has been reported, and no success followed
 
@@ -85,6 +98,21 @@ struct ProfileStore::File
         profile = Profile();
         stamp.reset();
         isThere = isUnread = hasUnsavedWrites = isFailing = false;
+        isKnown = true;
+    }
+    void take(Profile content, bool isOnDisk)
+    {
+        profile = std::move(content);
+        isThere = isOnDisk;
+        isKnown = true;
+        isUnread = false;
+    }
+    /// What is known of it is better than nothing: whoever took it for an empty file would write the author's
+    /// work away.
+    void failToRead()
+    {
+        stamp.reset();
+        isUnread = !isKnown;
     }
 };
 
@@ -148,23 +176,26 @@ void ProfileStore::Private::look(File& file)
     if (file.hasUnsavedWrites) {
         return;
     }
-    const std::optional<Stamp> stamp = stampOf(file.systemPath);
-    if (stamp && stamp == file.stamp) {
+    const Sight sight = lookAt(file.systemPath);
+    if (!sight.isClear) {
+        file.failToRead();
         return;
     }
-    file.profile = Profile();
+    if (sight.stamp && sight.stamp == file.stamp) {
+        return;
+    }
     file.stamp.reset();
-    file.isThere = stamp.has_value();
-    file.isUnread = false;
-    if (!stamp) {
+    if (!sight.stamp) {
+        file.take(Profile(), false);
         return;
     }
+    file.isThere = true;
     try {
-        file.profile = readFrom(file);
+        file.take(readFrom(file), true);
         // Taken before the bytes: a change in between shows the next time.
-        file.stamp = isSettled(*stamp) ? stamp : std::nullopt;
+        file.stamp = isSettled(*sight.stamp) ? sight.stamp : std::nullopt;
     } catch (const std::exception&) {
-        file.isUnread = true;
+        file.failToRead();
     }
 }
 
@@ -176,7 +207,8 @@ Profile ProfileStore::Private::readFrom(const File& file)
 /// Puts the file on disk. Throws if it can't.
 void ProfileStore::Private::put(File& file)
 {
-    if (file.isUnread && stampOf(file.systemPath)) {
+    const Sight sight = lookAt(file.systemPath);
+    if (file.isUnread && (sight.stamp || !sight.isClear)) {
         // Writing what we have would wipe out what we could not read.
         Profile whole = readFrom(file);
         file.profile.writeInto(whole);
@@ -193,7 +225,7 @@ std::optional<ProfileStore::Private::Failure> ProfileStore::Private::save(File& 
     try {
         put(file);
         file.hasUnsavedWrites = file.isFailing = file.isUnread = false;
-        file.isThere = true;
+        file.isThere = file.isKnown = true;
         // Read anew at the next event: a change right behind our own may show in no time stamp.
         file.stamp.reset();
         return std::nullopt;
@@ -266,7 +298,7 @@ bool ProfileStore::write(const QString& file, QByteArrayView section, QByteArray
     File& target = d->lookedAt(file);
     const bool changed = target.profile.setValue(section, key, value);
     // A file that is gone must come back, even if we hold the value already.
-    target.hasUnsavedWrites = target.hasUnsavedWrites || changed || !stampOf(target.systemPath);
+    target.hasUnsavedWrites = target.hasUnsavedWrites || changed || !lookAt(target.systemPath).stamp;
     if (d->depth > 0 || !target.hasUnsavedWrites) {
         return true;
     }

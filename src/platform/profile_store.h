@@ -12,7 +12,8 @@ namespace torvane {
 
 /// The platform's profile functions over all profile files of a run: `read` and `write` one key of a file.
 /// Each file is parsed once and kept; a file that another program changed between two events is read anew.
-/// Writes within a Batch go to disk once, whole, when the outermost batch ends; without a batch, at once.
+/// One that can't be read any more stays as it was known. Writes within a Batch go to disk once, whole, when
+/// the outermost batch ends; without a batch, at once.
 class ProfileStore
 {
 public:

@@ -2,15 +2,16 @@
 
 #include "platform/runtime_error.h"
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 
 #include <algorithm>
 #include <array>
 #include <cerrno>
 #include <cstdlib>
 #include <fcntl.h>
+#include <memory>
 #include <sys/stat.h>
 #include <unistd.h>
 #include <utility>
@@ -92,22 +93,6 @@ void writeAll(const Descriptor& file, const QString& path, QByteArrayView bytes)
     }
 }
 
-/// The error of a QSaveFile that has just failed. It keeps no errno, so `systemError` is the one caught right
-/// behind the call, or 0 if the call failed by a check of its own.
-RuntimeError saveError(const QSaveFile& file, int systemError)
-{
-    if (QFileInfo(file.fileName()).isDir()) {
-        return fileError(file.fileName(), EISDIR);
-    }
-    if (systemError != 0) {
-        return folderError(file.fileName(), systemError);
-    }
-    const bool refused = file.error() == QFileDevice::WriteError || file.error() == QFileDevice::OpenError ||
-                         file.error() == QFileDevice::PermissionsError;
-    return {refused ? RuntimeError::PermissionDenied : RuntimeError::DeviceIoError,
-            file.fileName() + QStringLiteral(": ") + file.errorString()};
-}
-
 /// File systems that can't sync say so with these; there is nothing more to do on them.
 bool isSyncUnsupported(int systemError)
 {
@@ -129,10 +114,88 @@ void syncFolderOf(const QString& path)
     }
 }
 
-/// Of a new file, before the user's mask.
-constexpr mode_t usualRights = 0666;
+/// The rights of a new file under the user's mask.
+mode_t usualRights()
+{
+    const mode_t mask = ::umask(0);
+    ::umask(mask);
+    return 0666 & ~mask;
+}
+
+/// Begins the names of files that are not yet what they will be; six characters of the system's follow.
+constexpr const char* unfinishedName = ".torvane-";
+
+/// A new file of the name with its six last characters replaced, or of an error that speaks of `path`.
+Descriptor makeFile(QByteArray& name, const QString& path)
+{
+    Descriptor made(::mkostemp(name.data(), O_CLOEXEC));
+    if (!made.isOpen()) {
+        throw folderError(path, errno);
+    }
+    return made;
+}
+
+/// A file is made for its owner alone.
+void giveRights(const Descriptor& file, mode_t rights, const QString& path)
+{
+    if (::fchmod(file.handle(), rights) != 0) {
+        throw fileError(path, errno);
+    }
+}
+
+/// What lies behind all links, so that a link to a file stays one. A path to nothing is itself.
+QByteArray behindLinks(const QString& path)
+{
+    const QByteArray name = systemPath(path);
+    if (name.isEmpty()) {
+        throw folderError(path, ENOENT);
+    }
+    const std::unique_ptr<char, decltype(&std::free)> real(::realpath(name.constData(), nullptr), &std::free);
+    if (!real && !isMissing(errno)) {
+        throw fileError(path, errno);
+    }
+    return real ? QByteArray(real.get()) : name;
+}
+
+/// The rights that a file of that name must have once it is replaced. Throws where it can't be, or must not.
+mode_t rightsOfReplaced(const QByteArray& name, const QString& path)
+{
+    struct stat old = {};
+    if (::stat(name.constData(), &old) != 0) {
+        if (!isMissing(errno)) {
+            throw fileError(path, errno);
+        }
+        return usualRights();
+    }
+    if (!S_ISREG(old.st_mode)) {
+        throw fileError(path, S_ISDIR(old.st_mode) ? EISDIR : ENODEV);
+    }
+    // The rename that puts the new file in place would not mind.
+    if (::faccessat(AT_FDCWD, name.constData(), W_OK, AT_EACCESS) != 0) {
+        throw fileError(path, errno);
+    }
+    constexpr mode_t allRights = 07777;
+    return old.st_mode & allRights;
+}
 
 } // namespace
+
+bool isMissing(int systemError)
+{
+    return systemError == ENOENT || systemError == ENOTDIR;
+}
+
+bool isThere(const QString& path)
+{
+    struct stat status = {};
+    if (::stat(systemPath(path).constData(), &status) == 0) {
+        return true;
+    }
+    if (!isMissing(errno)) {
+        throw fileError(path, errno);
+    }
+    return false;
+}
 
 QByteArray readWholeFile(const QString& path)
 {
@@ -150,21 +213,21 @@ QByteArray readWholeFile(const QString& path)
 
 void writeWholeFile(const QString& path, QByteArrayView bytes)
 {
-    systemPath(path);
-    QSaveFile file(path);
-    const auto check = [&file](bool done) {
-        if (!done) {
-            throw saveError(file, errno);
+    const QByteArray target = behindLinks(path);
+    const mode_t rights = rightsOfReplaced(target, path);
+    QByteArray name = target.first(target.lastIndexOf('/') + 1) + unfinishedName + "XXXXXX";
+    Descriptor file = makeFile(name, path);
+    try {
+        giveRights(file, rights, path);
+        writeAll(file, path, bytes);
+        if (!syncHandle(file.handle()) || !file.close() ||
+            ::rename(name.constData(), target.constData()) != 0) {
+            throw fileError(path, errno);
         }
-    };
-    errno = 0;
-    check(file.open(QIODevice::WriteOnly | QIODevice::Unbuffered));
-    errno = 0;
-    check(file.write(bytes.data(), bytes.size()) == bytes.size());
-    // QSaveFile syncs too, but doesn't say whether that failed.
-    check(syncHandle(file.handle()));
-    errno = 0;
-    check(file.commit());
+    } catch (const RuntimeError&) {
+        ::unlink(name.constData());
+        throw;
+    }
     syncFolderOf(path);
 }
 
@@ -174,7 +237,7 @@ namespace {
 /// `name`.
 Descriptor openForScratch(QByteArray& name, const QString& path)
 {
-    Descriptor made(::open(name.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, usualRights));
+    Descriptor made(::open(name.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666));
     if (made.isOpen()) {
         return made;
     }
@@ -182,17 +245,12 @@ Descriptor openForScratch(QByteArray& name, const QString& path)
         throw folderError(path, errno);
     }
     name += ".XXXXXX";
-    Descriptor beside(::mkostemp(name.data(), O_CLOEXEC));
-    if (!beside.isOpen()) {
-        throw folderError(path, errno);
-    }
-    // Made for its owner alone; it gets the rights of any other file.
-    const mode_t mask = ::umask(0);
-    ::umask(mask);
-    if (::fchmod(beside.handle(), usualRights & ~mask) != 0) {
-        const int failure = errno;
+    Descriptor beside = makeFile(name, path);
+    try {
+        giveRights(beside, usualRights(), path);
+    } catch (const RuntimeError&) {
         ::unlink(name.constData());
-        throw fileError(path, failure);
+        throw;
     }
     return beside;
 }
@@ -217,7 +275,7 @@ void writeScratchFile(const QString& path, QByteArrayView bytes)
 
 void deleteFile(const QString& path)
 {
-    if (::unlink(systemPath(path).constData()) != 0 && errno != ENOENT && errno != ENOTDIR) {
+    if (::unlink(systemPath(path).constData()) != 0 && !isMissing(errno)) {
         throw fileError(path, errno);
     }
 }
@@ -233,15 +291,13 @@ void requireWritableFolder(const QString& folder)
 {
     // A file that really lies there shows what permissions alone don't: a full disk, a quota, a read-only
     // mount. Its name is gone before anything is written.
-    QByteArray name = systemPath(folder) + "/.torvane-XXXXXX";
     if (folder.isEmpty()) {
         throw folderError(folder, ENOENT);
     }
-    Descriptor file(::mkostemp(name.data(), O_CLOEXEC));
-    if (!file.isOpen()) {
-        throw folderError(folder, errno);
-    }
-    const bool unlinked = ::unlink(name.constData()) == 0;
+    QByteArray name = systemPath(folder) + '/' + unfinishedName + "XXXXXX";
+    Descriptor file = makeFile(name, folder);
+    // Tried twice, as nobody else would take it away before the next start.
+    const bool unlinked = ::unlink(name.constData()) == 0 || ::unlink(name.constData()) == 0;
     constexpr std::array<char, 4096> block{};
     errno = 0;
     const ssize_t written = ::write(file.handle(), block.data(), block.size());
@@ -250,6 +306,18 @@ void requireWritableFolder(const QString& folder)
     }
     if (written < static_cast<ssize_t>(block.size())) {
         throw folderError(folder, ENOSPC);
+    }
+}
+
+void removeUnfinishedFiles(const QString& folder)
+{
+    const QString pattern = QLatin1StringView(unfinishedName) + QStringLiteral("??????");
+    for (const QString& name : QDir(folder).entryList({pattern}, QDir::Files | QDir::Hidden | QDir::System)) {
+        try {
+            deleteFile(folder + u'/' + name);
+        } catch (const RuntimeError&) {
+            // It does no harm where it is, and the next start tries again.
+        }
     }
 }
 

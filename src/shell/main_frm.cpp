@@ -7,6 +7,7 @@
 #include "overview/overview_frm.h"
 #include "platform/control_captions.h"
 #include "platform/pointer.h"
+#include "platform/text_files.h"
 #include "scenario_file/save_scenario.h"
 #include "shell/about_frm.h"
 #include "shell/captions.h"
@@ -146,6 +147,7 @@ void MainFrm::onLoad()
     m_started = true; // also where a file of an earlier run resists
     recoverKilledRun(m_editor);
     m_editor.scratchFiles().removeLeftovers();
+    removeUnfinishedFiles(m_editor.paths().scenarioDir);
     killFiles();
 }
 

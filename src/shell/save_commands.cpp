@@ -3,6 +3,7 @@
 #include "overview/overview_frm.h"
 #include "platform/pointer.h"
 #include "platform/runtime_error.h"
+#include "platform/text_files.h"
 #include "scenario_file/save_texts.h"
 #include "scenario_file/scenario_format.h"
 #include "scenario_file/validate_scenario.h"
@@ -41,11 +42,11 @@ bool passesValidation(Editor& editor)
     return findings.empty();
 }
 
-/// A file by that name; a folder is none.
+/// A file by that name; a folder is none. Throws where the system can't tell: what can't be seen must not be
+/// replaced without a question.
 bool isFile(const QString& path)
 {
-    const QFileInfo file(path);
-    return file.exists() && !file.isDir();
+    return isThere(path) && !QFileInfo(path).isDir();
 }
 
 // A file without any right to write is read-only to everyone, also to those whom the system lets write it.

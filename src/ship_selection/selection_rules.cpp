@@ -6,8 +6,6 @@
 #include "platform/text_files.h"
 #include "ship_selection/ship_line.h"
 
-#include <QFileInfo>
-
 #include <algorithm>
 
 namespace torvane {
@@ -40,7 +38,7 @@ void ShipSelection::open(Side side, const QString& caption, const QString& word)
     QStringList lines;
     for (int number = 1; number <= divisionFiles; ++number) {
         const QString file = m_files.divisionFile(side, number);
-        if (caption == word + u' ' + QString::number(number) && QFileInfo::exists(file)) {
+        if (caption == word + u' ' + QString::number(number) && isThere(file)) {
             lines = m_files.read(file);
             toInt16(static_cast<double>(lines.size()));
         }
@@ -54,7 +52,7 @@ void ShipSelection::countForces()
     m_blueShipCount = 0;
     m_redShipCount = 0;
     // Without a first division of Force A nothing counts, whatever Force B has. Kept.
-    if (QFileInfo::exists(m_files.divisionFile(Side::Blue, 1))) {
+    if (isThere(m_files.divisionFile(Side::Blue, 1))) {
         m_blueShipCount = shipsOf(Side::Blue);
         m_redShipCount = shipsOf(Side::Red);
     }
@@ -65,7 +63,7 @@ std::int16_t ShipSelection::shipsOf(Side side) const
     std::int16_t ships = 0;
     for (int number = 1; number <= divisionFiles; ++number) {
         const QString file = m_files.divisionFile(side, number);
-        if (QFileInfo::exists(file)) {
+        if (isThere(file)) {
             ships = toInt16(static_cast<double>(ships + m_files.read(file).size()));
         }
     }

@@ -1,10 +1,9 @@
 #include "ship_selection/ship_record.h"
 
 #include "platform/capitals.h"
+#include "platform/text_files.h"
 #include "ship_selection/ship_line.h"
 #include "store/profile_keys.h"
-
-#include <QFileInfo>
 
 #include <algorithm>
 #include <array>
@@ -140,7 +139,7 @@ ShipRecords::ShipRecords(ProfileStore& store, WorkingProfile& profile, ScratchFi
 void ShipRecords::saveindivShipInfoINI(Side side, int number, const QString& section, bool createMode)
 {
     const QString list = m_files.divisionFile(side, number);
-    if (!QFileInfo::exists(list)) {
+    if (!isThere(list)) {
         return;
     }
     const ProfileStore::Batch batch(m_store);

@@ -186,6 +186,7 @@ void ScratchFiles::killSurplusDivisions()
 
 void ScratchFiles::removeLeftovers()
 {
+    removeUnfinishedFiles(m_workDir);
     const QStringList copies = editCopies();
     for (const QString& name : copies + halfWritten(m_workDir, killList() + copies)) {
         try {

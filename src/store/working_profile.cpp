@@ -1,6 +1,7 @@
 #include "store/working_profile.h"
 
 #include "platform/number_text.h"
+#include "platform/text_files.h"
 #include "store/profile_keys.h"
 
 #include <QDir>
@@ -94,7 +95,7 @@ WorkingProfile::WorkingProfile(ProfileStore& store, const QString& workDir)
 bool WorkingProfile::liesAt(const QString& path) const
 {
     // Two files that are not there count as the same.
-    return QFileInfo::exists(path) && QFileInfo(path) == QFileInfo(m_path);
+    return isThere(path) && QFileInfo(path) == QFileInfo(m_path);
 }
 
 QString WorkingProfile::GetIniKey(QStringView section, QStringView key) const

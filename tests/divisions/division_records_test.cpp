@@ -1,4 +1,6 @@
 #include "divisions/records_fixture.h"
+#include "support/expect_error.h"
+#include "support/failing_system.h"
 
 namespace torvane::testing {
 namespace {
@@ -135,6 +137,19 @@ TEST_F(Divisions, ARecountWithoutAFirstForceADivisionIsNought)
     records.recount();
     EXPECT_EQ(records.blueDivCount(), 0);
     EXPECT_EQ(records.redDivCount(), 0);
+}
+
+TEST_F(Divisions, AListOfShipsThatCannotBeSeenIsAnErrorAndNotADivisionWithoutShips)
+{
+    create(Side::Blue, 1, ships({1, 2}));
+    const ClosedFolder closed(workDir);
+    const auto names = ::testing::HasSubstr("DivisionA1.txt");
+    expectError(
+        RuntimeError::PermissionDenied, [this] { records.countDivisionShips(Side::Blue, 1); }, names);
+    expectError(
+        RuntimeError::PermissionDenied, [this] { records.recount(); }, names);
+    expectError(
+        RuntimeError::PermissionDenied, [this] { records.countLoaded(); }, names);
 }
 
 TEST_F(Divisions, ACountBehindALoadTakesEachSidesFilesWhateverTheOtherHas)

@@ -225,6 +225,51 @@ TEST_F(ProfileStoreReading, AnUnreadableFileReadsAsMissingUntilItCanBeRead)
     EXPECT_EQ(read(u"S", u"K"), u"1");
 }
 
+TEST_F(ProfileStoreReading, AFileThatCanNoLongerBeReadStaysAsItWasKnown)
+{
+    put(path(), "[S]\r\nK=1\r\n");
+    EXPECT_EQ(read(u"S", u"K"), u"1");
+    EXPECT_TRUE(write(u"S", u"L", QStringLiteral("2")));
+    ASSERT_EQ(::chmod(QFile::encodeName(path()).constData(), 0), 0);
+    {
+        const OtherUser other;
+        EXPECT_EQ(read(u"S", u"K"), u"1");
+        EXPECT_EQ(read(u"S", u"L"), u"2");
+        EXPECT_TRUE(store.exists(path()));
+    }
+}
+
+TEST_F(ProfileStoreReading, AFileThatCanBeReadAgainIsReadAnew)
+{
+    put(path(), "[S]\r\nK=1\r\n");
+    EXPECT_EQ(read(u"S", u"K"), u"1");
+    put(path(), "[S]\r\nK=another program's\r\n");
+    ASSERT_EQ(::chmod(QFile::encodeName(path()).constData(), 0), 0);
+    {
+        const OtherUser other;
+        EXPECT_EQ(read(u"S", u"K"), u"1");
+    }
+    ASSERT_EQ(::chmod(QFile::encodeName(path()).constData(), 0644), 0);
+    EXPECT_EQ(read(u"S", u"K"), u"another program's");
+}
+
+TEST_F(ProfileStoreReading, AFileInAFolderThatHasBeenClosedIsNotTakenForMissing)
+{
+    put(path(), "[S]\r\nK=1\r\n");
+    EXPECT_EQ(read(u"S", u"K"), u"1");
+    const QByteArray folder = QFile::encodeName(QFileInfo(path()).path());
+    ASSERT_EQ(::chmod(folder.constData(), 0), 0);
+    {
+        const OtherUser other;
+        EXPECT_EQ(read(u"S", u"K"), u"1");
+        EXPECT_TRUE(store.exists(path()));
+        EXPECT_FALSE(write(u"S", u"L", QStringLiteral("2")));
+    }
+    ASSERT_EQ(::chmod(folder.constData(), 0777), 0);
+    emptyEvent();
+    EXPECT_EQ(onDisk(), "[S]\r\nK=1\r\nL=2\r\n");
+}
+
 TEST_F(ProfileStoreReading, AnEmptyNameOrOneWithAZeroByteIsNoFile)
 {
     put(path(), "[S]\r\nK=1\r\n");

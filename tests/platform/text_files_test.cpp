@@ -69,6 +69,12 @@ class DeleteFile : public TextFiles
 class RequireWritableFolder : public TextFiles
 {
 };
+class IsThere : public TextFiles
+{
+};
+class RemoveUnfinishedFiles : public TextFiles
+{
+};
 
 TEST_F(ReadWholeFile, GivesEveryByte)
 {
@@ -226,15 +232,88 @@ TEST_F(WriteWholeFile, AfterAFailureTheSameWriteSucceedsWhenThereIsRoomAgain)
     EXPECT_EQ(bytesOf("file"), "new");
 }
 
-TEST_F(WriteWholeFile, AFailureOfTheRenameItselfIsAnErrorAndTheOldFileStays)
+TEST_F(WriteWholeFile, TheLongestNameThatTheSystemTakesCanBeReplaced)
 {
-    // The name is legal, but the one beside it, seven characters longer, is not.
-    const QString name(252, u'n');
+    const QString name(255, u'n');
     put(name, "old");
+    writeWholeFile(path(name), "new");
+    EXPECT_EQ(bytesOf(name), "new");
+    EXPECT_EQ(names(), QStringList(name));
+}
+
+TEST_F(WriteWholeFile, ANameThatIsTooLongIsAnErrorAndLeavesNothing)
+{
+    const QString name(256, u'n');
     expectError(
         RuntimeError::DeviceIoError, [&] { writeWholeFile(path(name), "new"); }, path(name));
-    EXPECT_EQ(bytesOf(name), "old");
-    EXPECT_EQ(names(), QStringList(name));
+    EXPECT_EQ(names(), QStringList());
+}
+
+TEST_F(WriteWholeFile, AFailureOfTheRenameItselfIsAnErrorAndTheOldFileStays)
+{
+    if (::geteuid() != 0) {
+        GTEST_SKIP() << "only root can make a file of another user's";
+    }
+    // Anybody may make files here, and write into this one, but nobody may replace another's.
+    put("file", "old");
+    ASSERT_EQ(::chmod(QFile::encodeName(path("file")).constData(), 0666), 0);
+    ASSERT_EQ(::chmod(QFile::encodeName(folder()).constData(), 01777), 0);
+    {
+        const testing::Unprivileged user;
+        expectError(
+            RuntimeError::PermissionDenied, [this] { writeWholeFile(path("file"), "new"); }, path("file"));
+    }
+    EXPECT_EQ(bytesOf("file"), "old");
+    EXPECT_EQ(names(), QStringList("file"));
+}
+
+TEST_F(WriteWholeFile, AnOldFileKeepsItsRights)
+{
+    put("file", "old");
+    ASSERT_EQ(::chmod(QFile::encodeName(path("file")).constData(), 0640), 0);
+    writeWholeFile(path("file"), "new");
+    struct stat status = {};
+    ASSERT_EQ(::stat(QFile::encodeName(path("file")).constData(), &status), 0);
+    EXPECT_EQ(status.st_mode & 07777, 0640U);
+}
+
+TEST_F(WriteWholeFile, AReadOnlyFileIsPermissionDeniedAndStays)
+{
+    put("file", "old");
+    ASSERT_EQ(::chmod(QFile::encodeName(folder()).constData(), 0777), 0);
+    ASSERT_EQ(::chmod(QFile::encodeName(path("file")).constData(), 0444), 0);
+    {
+        const testing::Unprivileged user;
+        expectError(
+            RuntimeError::PermissionDenied, [this] { writeWholeFile(path("file"), "new"); }, path("file"));
+    }
+    EXPECT_EQ(bytesOf("file"), "old");
+    EXPECT_EQ(names(), QStringList("file"));
+}
+
+TEST_F(WriteWholeFile, ALinkStaysALinkAndItsFileIsReplaced)
+{
+    ASSERT_TRUE(QDir(folder()).mkdir("elsewhere"));
+    put("elsewhere/file", "old");
+    ASSERT_TRUE(QFile::link(path("elsewhere/file"), path("link")));
+    writeWholeFile(path("link"), "new");
+    EXPECT_TRUE(QFileInfo(path("link")).isSymLink());
+    EXPECT_EQ(bytesOf("elsewhere/file"), "new");
+    EXPECT_EQ(names(), (QStringList{"elsewhere", "link"}));
+}
+
+TEST_F(WriteWholeFile, APipeIsADeviceErrorAndDoesNotHoldUpTheProgram)
+{
+    ASSERT_EQ(::mkfifo(QFile::encodeName(path("pipe")).constData(), 0600), 0);
+    expectError(
+        RuntimeError::DeviceIoError, [this] { writeWholeFile(path("pipe"), "x"); }, path("pipe"));
+    EXPECT_EQ(names(), QStringList("pipe"));
+}
+
+TEST_F(WriteWholeFile, AnEmptyNameIsNoFile)
+{
+    EXPECT_THROW(writeWholeFile(QString(), "x"), RuntimeError);
+    EXPECT_EQ(names(), QStringList());
 }
 
 TEST_F(WriteWholeFile, AZeroByteInThePathNamesNoOtherFile)
@@ -393,6 +472,47 @@ TEST_F(RequireWritableFolder, ADiskWithRoomForAPartOfABlockIsFull)
     const testing::FullDisk full(100);
     expectError(
         RuntimeError::DiskFull, [this] { requireWritableFolder(folder()); }, folder());
+}
+
+TEST_F(IsThere, TellsAFileAndAFolderFromNothing)
+{
+    put("file", "x");
+    EXPECT_TRUE(isThere(path("file")));
+    EXPECT_TRUE(isThere(folder()));
+    EXPECT_FALSE(isThere(path("other")));
+    EXPECT_FALSE(isThere(path("file/below")));
+}
+
+TEST_F(IsThere, WhatCannotBeSeenIsAnErrorAndNotTakenForMissing)
+{
+    put("file", "x");
+    const testing::ClosedFolder closed(folder());
+    expectError(
+        RuntimeError::PermissionDenied, [this] { isThere(path("file")); }, path("file"));
+}
+
+TEST_F(RemoveUnfinishedFiles, DeletesWhatAKilledWriteLeavesAndNothingElse)
+{
+    for (const char* name : {".torvane-aZ09bY", ".torvane-abcdef", ".torvane-", ".torvane-abcdefg",
+                             "x.torvane-abcdef", "First.scn", "First.scn.backup"}) {
+        put(name, "x");
+    }
+    ASSERT_TRUE(QDir(folder()).mkdir(".torvane-folder"));
+    removeUnfinishedFiles(folder());
+    EXPECT_THAT(names(),
+                ::testing::UnorderedElementsAre(".torvane-", ".torvane-abcdefg", ".torvane-folder",
+                                                "First.scn", "First.scn.backup", "x.torvane-abcdef"));
+}
+
+TEST_F(RemoveUnfinishedFiles, AMissingFolderAndAFileThatCannotBeDeletedAreNoErrors)
+{
+    EXPECT_NO_THROW(removeUnfinishedFiles(path("none")));
+    put(".torvane-abcdef", "x");
+    {
+        const testing::ReadOnlyFolder readOnly(folder());
+        EXPECT_NO_THROW(removeUnfinishedFiles(folder()));
+    }
+    EXPECT_EQ(names(), QStringList(".torvane-abcdef"));
 }
 
 } // namespace

@@ -1,4 +1,5 @@
 #include "selection_fixture.h"
+#include "support/expect_error.h"
 #include "support/failing_system.h"
 
 #include <QDir>
@@ -33,6 +34,19 @@ protected:
         EXPECT_EQ(markedNames(browser), QStringList({"RN 1", "RN 2"}));
     }
 };
+
+TEST_F(SelectionFiles, AListThatCannotBeSeenIsAnErrorAndCountsForNoLimit)
+{
+    useCatalogue(shipsOf("RN", 4));
+    putDivision(Side::Blue, 1, 3);
+    const ClosedFolder closed(files.workDir());
+    const auto names = HasSubstr("DivisionA1.txt");
+    expectError(
+        RuntimeError::PermissionDenied, [this] { open(); }, names);
+    expectError(
+        RuntimeError::PermissionDenied, [this] { selection.countForces(); }, names);
+    EXPECT_TRUE(selection.entries().isEmpty());
+}
 
 TEST_F(SelectionFiles, WithoutATrackAPickIsAFileFailureThatLeavesAllAsItWas)
 {

@@ -384,6 +384,14 @@ TEST_F(RemoveLeftovers, LeavesWhatIsLikeItButOther)
     EXPECT_EQ(names(), kept);
 }
 
+TEST_F(RemoveLeftovers, DeletesWhatWasBeingWrittenAndWhatTriedTheFolder)
+{
+    put(".torvane-aZ09bY");
+    put("ShipTrack.bmm");
+    files.removeLeftovers();
+    EXPECT_EQ(names(), QStringList{"ShipTrack.bmm"});
+}
+
 TEST_F(RemoveLeftovers, AFileThatCannotBeDeletedStaysAndTheOthersGo)
 {
     ASSERT_TRUE(QDir(m_folder.path()).mkdir("ShipRemove.bmm"));

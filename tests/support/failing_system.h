@@ -36,26 +36,40 @@ private:
     bool m_changed = false;
 };
 
-/// While one lives, the folder can be listed but nothing in it made, replaced or deleted, also by root.
-class ReadOnlyFolder
+/// While one lives, the folder has these rights only, also for root.
+class RestrictedFolder
 {
 public:
-    explicit ReadOnlyFolder(const QString& folder) : m_path(QFile::encodeName(folder))
+    RestrictedFolder(const QString& folder, mode_t rights) : m_path(QFile::encodeName(folder))
     {
-        ::chmod(m_path.constData(), 0555);
+        ::chmod(m_path.constData(), rights);
         m_unprivileged.emplace();
     }
-    ~ReadOnlyFolder()
+    ~RestrictedFolder()
     {
         m_unprivileged.reset();
         ::chmod(m_path.constData(), 0700);
     }
-    ReadOnlyFolder(const ReadOnlyFolder&) = delete;
-    ReadOnlyFolder& operator=(const ReadOnlyFolder&) = delete;
+    RestrictedFolder(const RestrictedFolder&) = delete;
+    RestrictedFolder& operator=(const RestrictedFolder&) = delete;
 
 private:
     QByteArray m_path;
     std::optional<Unprivileged> m_unprivileged;
+};
+
+/// While one lives, the folder can be listed but nothing in it made, replaced or deleted.
+class ReadOnlyFolder : public RestrictedFolder
+{
+public:
+    explicit ReadOnlyFolder(const QString& folder) : RestrictedFolder(folder, 0555) {}
+};
+
+/// While one lives, nobody can see what is in the folder.
+class ClosedFolder : public RestrictedFolder
+{
+public:
+    explicit ClosedFolder(const QString& folder) : RestrictedFolder(folder, 0) {}
 };
 
 /// While one lives, no file takes more than so many bytes: writes beyond fail as on a full disk.

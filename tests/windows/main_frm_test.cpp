@@ -154,6 +154,19 @@ TEST_F(MainWindow, TwoRunsInARowTheSecondDeletesWhatACrashedFirstLeft)
     EXPECT_EQ(editor().workingProfile().GetIniKey(u"SCENARIODATA", u"TITLE"), QStringLiteral("INVALID"));
 }
 
+TEST_F(MainWindow, AScenarioThatAKilledRunWasSavingLeavesNothingUnfinishedAfterTheStart)
+{
+    const QString folder = gameFolder() + QStringLiteral("/Scenarios/");
+    for (const char* name : {".torvane-aZ09bY", "Night.scn", "Night.scn.backup"}) {
+        QFile file(folder + QLatin1StringView(name));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    }
+    start();
+    EXPECT_EQ(QDir(folder).entryList(QDir::Files | QDir::Hidden, QDir::Name),
+              (QStringList{QStringLiteral("Night.scn"), QStringLiteral("Night.scn.backup")}));
+    EXPECT_TRUE(boxes().isEmpty());
+}
+
 TEST_F(MainWindow, AScratchFileThatResistsAtStartIsNamedAndTheWindowLaysItselfOut)
 {
     QDir(gameFolder()).mkpath(QStringLiteral("ScenarioEditor/ShipTrack.bmm/inside"));
