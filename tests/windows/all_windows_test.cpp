@@ -14,6 +14,7 @@
 
 #include <QAbstractButton>
 #include <QAbstractScrollArea>
+#include <QAccessible>
 #include <QMenu>
 #include <QMenuBar>
 #include <QRegularExpression>
@@ -229,6 +230,42 @@ TEST_P(AllWindows, TabFollowsTheEye)
         const bool onward = after.x() > before.x() || after.y() > before.y();
         EXPECT_TRUE(onward) << stops[i - 1]->objectName().toStdString() << " before "
                             << stops[i]->objectName().toStdString();
+    }
+}
+
+/// What a person works: it takes the focus by key or mouse, or is a button.
+bool isWorked(const QWidget* widget)
+{
+    return widget->isVisible() &&
+           (widget->focusPolicy() != Qt::NoFocus || qobject_cast<const QAbstractButton*>(widget));
+}
+
+QString spoken(QWidget* widget, QAccessible::Text text)
+{
+    const QAccessibleInterface* const face = QAccessible::queryAccessibleInterface(widget);
+    return face ? face->text(text).trimmed() : QString();
+}
+
+TEST_P(AllWindows, TellAssistiveTechnologyWhatEveryControlIs)
+{
+    int told = 0;
+    for (QWidget* widget : controls()) {
+        if (isWorked(widget)) {
+            EXPECT_FALSE(spoken(widget, QAccessible::Name).isEmpty()) << widget->objectName().toStdString();
+            ++told;
+        }
+    }
+    EXPECT_TRUE(told > 0 || QLatin1StringView(subject().name) == QLatin1StringView("frmSplash"));
+}
+
+TEST_P(AllWindows, TellAssistiveTechnologyWhatEveryControlIsFor)
+{
+    for (QWidget* widget : controls()) {
+        if (isWorked(widget)) {
+            EXPECT_FALSE(spoken(widget, QAccessible::Description).isEmpty())
+                << widget->objectName().toStdString() << ": "
+                << spoken(widget, QAccessible::Name).toStdString();
+        }
     }
 }
 
