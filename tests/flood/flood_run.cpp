@@ -151,6 +151,7 @@ void Monkey::countCommands()
 void Monkey::hearBox(const MessageBox& box)
 {
     const Language language = m_run->editor().language();
+    log(QStringLiteral("  box: ") + QString(box.text).replace(QLatin1Char('\n'), QLatin1Char(' ')));
     if (box.title == mainText(MainText::RuntimeErrorTitle, language)) {
         const QString excuse = excuseFor(box, m_origin);
         if (excuse.isEmpty()) {

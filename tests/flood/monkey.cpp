@@ -121,10 +121,7 @@ void Monkey::deliver()
     for (const QChar character : line) {
         m_outcome.digest = (m_outcome.digest ^ character.unicode()) * 1099511628211U;
     }
-    m_outcome.lastInputs.append(QStringLiteral("%1 %2").arg(m_outcome.events).arg(line));
-    if (m_outcome.lastInputs.size() > keptInputs) {
-        m_outcome.lastInputs.removeFirst();
-    }
+    log(QStringLiteral("%1 %2").arg(m_outcome.events).arg(line));
     passTime(timePerInput);
     ++m_depth;
     m_census.atLeast(QStringLiteral("most"), QStringLiteral("boxes at a time"), m_depth - 1);
@@ -132,6 +129,14 @@ void Monkey::deliver()
     --m_depth;
     if (m_outcome.events % memoryEvery == 0) {
         sampleMemory();
+    }
+}
+
+void Monkey::log(const QString& line)
+{
+    m_outcome.lastInputs.append(line);
+    if (m_outcome.lastInputs.size() > keptInputs) {
+        m_outcome.lastInputs.removeFirst();
     }
 }
 

@@ -67,6 +67,7 @@ private:
     void chooseInputs();
     void walkOut();
     void deliver();
+    void log(const QString& line);
     void fail(const QString& fault);
     void finish();
 
