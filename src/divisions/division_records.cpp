@@ -135,8 +135,8 @@ QStringList DivisionRecords::listBeforeEdit() const
     return isThere(path) ? m_files.read(path) : QStringList();
 }
 
-// The list outlasts an edit that kept ships in it and was cancelled: a ship that it names and the scenario hasn't
-// is a new one.
+// The list outlasts an edit that kept ships in it and was cancelled: a ship that it names and the scenario
+// hasn't is a new one.
 QStringList DivisionRecords::shipsBeforeEdit(const QString& section) const
 {
     QStringList names;

@@ -27,9 +27,9 @@ constexpr int longText = 800; // characters
 bool isControl(const QWidget* widget)
 {
     const bool isPartOfCombo = qobject_cast<const QComboBox*>(widget->parentWidget()) != nullptr;
-    return !isPartOfCombo &&
-           (widget->inherits("QAbstractButton") || widget->inherits("QLineEdit") || widget->inherits("QComboBox") ||
-            widget->inherits("QAbstractScrollArea") || widget->inherits("QTabBar") || widget->inherits("QScrollBar"));
+    return !isPartOfCombo && (widget->inherits("QAbstractButton") || widget->inherits("QLineEdit") ||
+                              widget->inherits("QComboBox") || widget->inherits("QAbstractScrollArea") ||
+                              widget->inherits("QTabBar") || widget->inherits("QScrollBar"));
 }
 
 int weightOf(const QString& window, const QString& control)
@@ -94,9 +94,11 @@ void Habits::use(QWidget& control, Inputs& inputs)
         }
         return;
     }
-    const bool steps = qobject_cast<StepButton*>(&control) != nullptr || qobject_cast<QScrollBar*>(&control) != nullptr;
+    const bool steps =
+        qobject_cast<StepButton*>(&control) != nullptr || qobject_cast<QScrollBar*>(&control) != nullptr;
     const bool hasPlaces = control.inherits("QTabBar") || control.inherits("QScrollBar");
-    const QPoint place = hasPlaces ? somewhereIn(control) : QPoint(std::min(8, control.width() / 2), control.height() / 2);
+    const QPoint place =
+        hasPlaces ? somewhereIn(control) : QPoint(std::min(8, control.width() / 2), control.height() / 2);
     if (steps && m_random.oneIn(5)) {
         inputs.push_back(at(Kind::Press, control, place));
         inputs.push_back({.kind = Kind::Wait, .number = m_random.below(1500)});
@@ -124,7 +126,8 @@ void Habits::retype(const QWidget& field, Inputs& inputs)
         type(m_random.oneOf(typedTexts()), inputs);
     }
     if (m_random.oneIn(5)) {
-        key(m_random.oneOf(std::array{Qt::Key_Return, Qt::Key_Tab, Qt::Key_Backspace, Qt::Key_Delete}), {}, inputs);
+        key(m_random.oneOf(std::array{Qt::Key_Return, Qt::Key_Tab, Qt::Key_Backspace, Qt::Key_Delete}), {},
+            inputs);
     }
 }
 

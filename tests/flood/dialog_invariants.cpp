@@ -50,8 +50,8 @@ constexpr ShownKey overviewShows[] = {
     {"txtVPmodsB", u"RED_VICTORY_MODS"},
 };
 constexpr ShownKey environmentShows[] = {
-    {"TxtStartTime", u"START_TIME"}, {"TxtSunrise", u"SUNRISE"},         {"TxtSunset", u"SUNSET"},
-    {"TxtWindSpd", u"WIND_SPEED"},   {"TxtWindDir", u"WIND_DIRECTION"},  {"ComboSeaState", u"SEASTATE"},
+    {"TxtStartTime", u"START_TIME"}, {"TxtSunrise", u"SUNRISE"},           {"TxtSunset", u"SUNSET"},
+    {"TxtWindSpd", u"WIND_SPEED"},   {"TxtWindDir", u"WIND_DIRECTION"},    {"ComboSeaState", u"SEASTATE"},
     {"ComboYear", u"YEAR"},          {"lblGmLenHour", u"GAMELENGTH_HOUR"},
 };
 
@@ -125,10 +125,13 @@ QString shipFault(Editor& editor, const Form& dialog)
     for (int n = 0; n < divisionSections && !name.startsWith(QStringLiteral("Duncan")); ++n) {
         for (int m = 0; m < 10; ++m) {
             const QString section = shipSection(n, m);
-            if (isShip(profile.GetIniKey(section, u"NAME")) && profile.GetIniKey(section, u"SHORTNAME") == name) {
+            if (isShip(profile.GetIniKey(section, u"NAME")) &&
+                profile.GetIniKey(section, u"SHORTNAME") == name) {
                 const auto stored = [&](QStringView key) { return profile.GetIniKey(section, key); };
-                return difference(QStringLiteral("lblShipClass"), shown(dialog, "lblShipClass"), stored(u"CLASS")) +
-                       difference(QStringLiteral("LblShipNavy"), shown(dialog, "LblShipNavy"), stored(u"NAVY")) +
+                return difference(QStringLiteral("lblShipClass"), shown(dialog, "lblShipClass"),
+                                  stored(u"CLASS")) +
+                       difference(QStringLiteral("LblShipNavy"), shown(dialog, "LblShipNavy"),
+                                  stored(u"NAVY")) +
                        difference(QStringLiteral("lblFireCnt"), shown(dialog, "lblFireCnt"),
                                   stored(u"CURRENTFIRECOUNT"));
             }

@@ -17,9 +17,13 @@ struct Excuse
 };
 
 constexpr Excuse excuses[] = {
-    {RuntimeError::Overflow, "", Origin::Made, "a number that was typed, or a place on the map, beyond its bits"},
+    {RuntimeError::Overflow, "", Origin::Made,
+     "a number that was typed, or a place on the map, beyond its bits"},
     {RuntimeError::FileNotFound, "missing.scn", Origin::None, "a file that was chosen and is not there"},
-    {RuntimeError::SubscriptOutOfRange, "", Origin::Foreign, "a value of a damaged file without a place in its table"},
+    {RuntimeError::FileNotFound, "ShipTrack.bmm", Origin::Foreign,
+     "the load of a damaged file that ended half way left no list of picked ships"},
+    {RuntimeError::SubscriptOutOfRange, "", Origin::Foreign,
+     "a value of a damaged file without a place in its table"},
     {RuntimeError::NoCurrentRecord, "", Origin::Foreign, "a ship of a damaged file that the catalogue lacks"},
     {RuntimeError::InvalidProcedureCall, "", Origin::Foreign, "a damaged file"},
 };

@@ -82,8 +82,9 @@ void Monkey::startRun()
     m_run->fileBoxes().onOpen = [this](const QString& name) {
         m_origin = m_soundFiles.contains(name) ? Origin::Made : Origin::Foreign;
         m_allDrawn = true;
-        m_census.count(QStringLiteral("files"), m_origin == Origin::Made ? QStringLiteral("loaded, of its own")
-                                                                        : QStringLiteral("loaded, foreign"));
+        m_census.count(QStringLiteral("files"), m_origin == Origin::Made
+                                                    ? QStringLiteral("loaded, of its own")
+                                                    : QStringLiteral("loaded, foreign"));
     };
     m_run->fileBoxes().onSave = [this](const QString& name) { m_savedName = name; };
     m_run->editor().start();
@@ -166,7 +167,8 @@ void Monkey::hearBox(const MessageBox& box)
     if (saved || box.text == saveText(SaveText::Failed, language)) {
         rememberSave(saved);
     }
-    m_census.count(QStringLiteral("boxes"), QString(box.text).replace(QLatin1Char('\n'), QLatin1Char(' ')).left(60));
+    m_census.count(QStringLiteral("boxes"),
+                   QString(box.text).replace(QLatin1Char('\n'), QLatin1Char(' ')).left(60));
 }
 
 // What a file holds that was saved from a foreign scenario is foreign too.
@@ -202,12 +204,14 @@ QString Monkey::memoryFault()
 // The profile is replaced whole by each write: another file means another content.
 bool Monkey::takeProfileChange()
 {
-    struct stat file{};
+    struct stat file
+    {
+    };
     const bool there = ::stat(QFile::encodeName(profilePath).constData(), &file) == 0;
-    const std::uint64_t mark =
-        there ? file.st_ino * 31U + static_cast<std::uint64_t>(file.st_mtim.tv_nsec) +
-                    static_cast<std::uint64_t>(file.st_mtim.tv_sec) * 7U + static_cast<std::uint64_t>(file.st_size)
-              : 0;
+    const std::uint64_t mark = there ? file.st_ino * 31U + static_cast<std::uint64_t>(file.st_mtim.tv_nsec) +
+                                           static_cast<std::uint64_t>(file.st_mtim.tv_sec) * 7U +
+                                           static_cast<std::uint64_t>(file.st_size)
+                                     : 0;
     return std::exchange(m_profileMark, mark) != mark;
 }
 

@@ -17,21 +17,36 @@ struct HabitRow
 
 inline constexpr int plainWeight = 2;
 inline constexpr HabitRow habitRows[] = {
-    {"OverviewFrm", "cmdOK", 12},          {"OverviewFrm", "CmdCancel", 3},
-    {"OverviewFrm", "cmdEnviroCntrl", 5},  {"OverviewFrm", "cmbMission", 5},
-    {"OverviewFrm", "RTxtBBlueBrief", 1},  {"OverviewFrm", "RTxtBRedBrief", 1},
-    {"EnviroFrm", "cmdOK", 9},             {"EnviroFrm", "CmdCancel", 2},
-    {"CreateDivisionFrm", "CmdAdd", 25},   {"CreateDivisionFrm", "CmdSaveData", 25},
-    {"CreateDivisionFrm", "cmdOK", 20},    {"CreateDivisionFrm", "CmdCancel", 3},
-    {"CreateDivisionFrm", "CmdEditCancel", 3}, {"CreateDivisionFrm", "cmdDivDataChng", 8},
-    {"CreateDivisionFrm", "cmdKeepDivData", 14}, {"CreateDivisionFrm", "CmdFlagShip", 6},
-    {"CreateDivisionFrm", "GrdDivision", 8}, {"ShipDBaseFrm", "Grid1", 22},
-    {"ShipDBaseFrm", "CmdKeepShips", 14},  {"ShipDBaseFrm", "CmdCancel", 2},
-    {"ShipDBaseFrm", "CmdClear", 1},       {"ShipDBaseFrm", "CmdRemove", 4},
-    {"ShipDBaseFrm", "LstDivision", 5},    {"ShipDataFrm", "cmdSave", 9},
-    {"ShipDataFrm", "CmdCancel", 4},       {"ShipDataFrm", "TabStrip1", 10},
-    {"ShipDataFrm", "Command1", 12},       {"AboutFrm", "cmdOK", 2},
-    {"HelpFrm", "txtGuide", 6},            {"HelpFrm", "treContents", 6},
+    {"OverviewFrm", "cmdOK", 12},
+    {"OverviewFrm", "CmdCancel", 3},
+    {"OverviewFrm", "cmdEnviroCntrl", 5},
+    {"OverviewFrm", "cmbMission", 5},
+    {"OverviewFrm", "RTxtBBlueBrief", 1},
+    {"OverviewFrm", "RTxtBRedBrief", 1},
+    {"EnviroFrm", "cmdOK", 9},
+    {"EnviroFrm", "CmdCancel", 2},
+    {"CreateDivisionFrm", "CmdAdd", 25},
+    {"CreateDivisionFrm", "CmdSaveData", 25},
+    {"CreateDivisionFrm", "cmdOK", 20},
+    {"CreateDivisionFrm", "CmdCancel", 3},
+    {"CreateDivisionFrm", "CmdEditCancel", 3},
+    {"CreateDivisionFrm", "cmdDivDataChng", 8},
+    {"CreateDivisionFrm", "cmdKeepDivData", 14},
+    {"CreateDivisionFrm", "CmdFlagShip", 6},
+    {"CreateDivisionFrm", "GrdDivision", 8},
+    {"ShipDBaseFrm", "Grid1", 22},
+    {"ShipDBaseFrm", "CmdKeepShips", 14},
+    {"ShipDBaseFrm", "CmdCancel", 2},
+    {"ShipDBaseFrm", "CmdClear", 1},
+    {"ShipDBaseFrm", "CmdRemove", 4},
+    {"ShipDBaseFrm", "LstDivision", 5},
+    {"ShipDataFrm", "cmdSave", 9},
+    {"ShipDataFrm", "CmdCancel", 4},
+    {"ShipDataFrm", "TabStrip1", 10},
+    {"ShipDataFrm", "Command1", 12},
+    {"AboutFrm", "cmdOK", 2},
+    {"HelpFrm", "txtGuide", 6},
+    {"HelpFrm", "treContents", 6},
 };
 
 /// How often a group of commands is chosen, of a thousand, in a scenario and without one. An entry belongs to
@@ -44,11 +59,10 @@ struct CommandRow
 };
 
 inline constexpr CommandRow commandRows[] = {
-    {"mnuNew", 9, 500},         {"mnuLoad", 11, 350},        {"mnuSaveAs", 60, 0},
-    {"mnuSave", 90, 0},         {"mnuOverView", 80, 0},      {"mnuTargetBox", 40, 0},
-    {"mnuCreateForce", 260, 0}, {"mnuForce", 170, 0},        {"mnuDiv*Ship", 170, 0},
-    {"mnuDiv", 80, 0},          {"mnuHelpTopics", 8, 30},    {"mnuHotText", 15, 60},
-    {"mnuAbout", 15, 50},       {"mnuExit", 2, 10},
+    {"mnuNew", 9, 500},      {"mnuLoad", 11, 350},    {"mnuSaveAs", 60, 0},       {"mnuSave", 90, 0},
+    {"mnuOverView", 80, 0},  {"mnuTargetBox", 40, 0}, {"mnuCreateForce", 260, 0}, {"mnuForce", 170, 0},
+    {"mnuDiv*Ship", 170, 0}, {"mnuDiv", 80, 0},       {"mnuHelpTopics", 8, 30},   {"mnuHotText", 15, 60},
+    {"mnuAbout", 15, 50},    {"mnuExit", 2, 10},
 };
 
 /// What is typed: numbers within and beyond every range, words in all letters, and what could end a line, a

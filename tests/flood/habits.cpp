@@ -50,8 +50,9 @@ const CommandRow* groupOf(const QString& entry)
 {
     const auto row = std::ranges::find_if(commandRows, [&](const CommandRow& group) {
         const QString names = QString::fromLatin1(group.names);
-        return names == QStringLiteral("mnuDiv*Ship") ? entry.startsWith(QStringLiteral("mnuDiv")) && entry.contains(QStringLiteral("Ship"))
-                                                : entry.startsWith(names);
+        return names == QStringLiteral("mnuDiv*Ship")
+                   ? entry.startsWith(QStringLiteral("mnuDiv")) && entry.contains(QStringLiteral("Ship"))
+                   : entry.startsWith(names);
     });
     return row == std::end(commandRows) ? nullptr : row;
 }
@@ -129,7 +130,8 @@ void Habits::inPopup(QWidget& popup, Inputs& inputs)
         return key(Qt::Key_Escape, {}, inputs);
     }
     if (how < 25) {
-        return key(m_random.oneOf(std::array{Qt::Key_Up, Qt::Key_Down, Qt::Key_Return, Qt::Key_End}), {}, inputs);
+        return key(m_random.oneOf(std::array{Qt::Key_Up, Qt::Key_Down, Qt::Key_Return, Qt::Key_End}), {},
+                   inputs);
     }
     // The list takes no release that comes too soon behind its opening.
     inputs.push_back({.kind = Kind::Wait, .number = 600});
@@ -280,8 +282,8 @@ void Habits::onMap(Editor& editor, Inputs& inputs)
         type(m_random.oneOf(letters), inputs);
     } else if (how < 85) {
         key(m_random.oneOf(std::array{Qt::Key_Left, Qt::Key_Right, Qt::Key_Up, Qt::Key_Down}),
-            m_random.oneOf(std::array<Qt::KeyboardModifiers, 3>{
-                Qt::NoModifier, Qt::ControlModifier, Qt::ControlModifier | Qt::ShiftModifier}),
+            m_random.oneOf(std::array<Qt::KeyboardModifiers, 3>{Qt::NoModifier, Qt::ControlModifier,
+                                                                Qt::ControlModifier | Qt::ShiftModifier}),
             inputs);
     } else if (how < 92) {
         key(m_random.chance(50) ? Qt::Key_Space : Qt::Key_Return, {}, inputs, QStringLiteral(" "));

@@ -19,8 +19,8 @@ class MainMenu;
 
 namespace torvane::testing {
 
-/// What the monkey does next. Mostly what an author would do in the window in front, so that it gets deep into
-/// a scenario, and in between anything anywhere. Goes by the seed alone.
+/// What the monkey does next. Mostly what an author would do in the window in front, so that it gets deep
+/// into a scenario, and in between anything anywhere. Goes by the seed alone.
 class Habits
 {
 public:
@@ -62,7 +62,8 @@ private:
     void retype(const QWidget& field, Inputs& inputs);
     void type(const QString& text, Inputs& inputs);
     void key(int key, Qt::KeyboardModifiers modifiers, Inputs& inputs, const QString& text = {});
-    void click(const QWidget& control, QPoint position, Inputs& inputs, Qt::MouseButton button = Qt::LeftButton);
+    void click(const QWidget& control, QPoint position, Inputs& inputs,
+               Qt::MouseButton button = Qt::LeftButton);
     void clickMiddle(const QWidget& control, Inputs& inputs);
     QPoint somewhereIn(const QWidget& control);
 

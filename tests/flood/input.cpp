@@ -12,8 +12,9 @@
 
 // What the toolkit's own test library delivers window events through.
 extern Q_GUI_EXPORT void qt_handleMouseEvent(QWindow* window, const QPointF& local, const QPointF& global,
-                                             Qt::MouseButtons state, Qt::MouseButton button, QEvent::Type type,
-                                             Qt::KeyboardModifiers modifiers, int timestamp);
+                                             Qt::MouseButtons state, Qt::MouseButton button,
+                                             QEvent::Type type, Qt::KeyboardModifiers modifiers,
+                                             int timestamp);
 extern Q_GUI_EXPORT void qt_handleKeyEvent(QWindow* window, QEvent::Type type, int key,
                                            Qt::KeyboardModifiers modifiers, const QString& text,
                                            bool autorepeat, ushort count);
@@ -26,8 +27,8 @@ using Kind = Input::Kind;
 
 constexpr int repeatsOfHeldKey = 3;
 
-constexpr const char* kindNames[] = {"press",  "release", "move",  "wheel",    "key",   "hold",    "resize",
-                                     "window", "close",   "focus", "choose", "wait"};
+constexpr const char* kindNames[] = {"press",  "release", "move",  "wheel", "key",    "hold",
+                                     "resize", "window",  "close", "focus", "choose", "wait"};
 
 QString nameOf(const QWindow* window)
 {
@@ -76,8 +77,8 @@ void InputDevices::deliver(const Input& input)
         return;
     }
     if (input.kind == Kind::Resize) {
-        input.window->resize(input.size.expandedTo(input.window->minimumSize())
-                                 .boundedTo(input.window->maximumSize()));
+        input.window->resize(
+            input.size.expandedTo(input.window->minimumSize()).boundedTo(input.window->maximumSize()));
     } else if (input.kind == Kind::State) {
         input.window->setWindowStates(static_cast<Qt::WindowState>(input.number));
     } else if (input.kind == Kind::Close) {
@@ -217,11 +218,13 @@ QString described(const Input& input)
         return line + QStringLiteral(" %1 with %2 text \"%3\" in %4")
                           .arg(input.key, 0, 16)
                           .arg(input.modifiers.toInt(), 0, 16)
-                          .arg(input.text.left(20), nameOf(input.window ? input.window.data()
-                                                                        : QGuiApplication::focusWindow()));
+                          .arg(input.text.left(20),
+                               nameOf(input.window ? input.window.data() : QGuiApplication::focusWindow()));
     case Kind::Resize:
-        return line +
-               QStringLiteral(" %1 to %2x%3").arg(nameOf(input.window)).arg(input.size.width()).arg(input.size.height());
+        return line + QStringLiteral(" %1 to %2x%3")
+                          .arg(nameOf(input.window))
+                          .arg(input.size.width())
+                          .arg(input.size.height());
     case Kind::Command:
         return line + QLatin1Char(' ') + input.text;
     default:

@@ -45,8 +45,8 @@ QString madeScenarioFault(const QByteArray& bytes);
 /// The program can save what it holds.
 QString savingFault(Editor& editor);
 
-/// With the main window in front: the Edit and Reposition menus fit the divisions of the profile, and so do the
-/// program's counts.
+/// With the main window in front: the Edit and Reposition menus fit the divisions of the profile, and so do
+/// the program's counts.
 QString divisionMenusFault(Editor& editor);
 /// With the main window in front: the Edit Ship menu fits the ships of the profile. `allDrawn`: the map could
 /// be drawn to its end.

@@ -1,4 +1,5 @@
 #include "flood/invariants.h"
+
 #include "platform/pointer.h"
 #include "shell/main_frm.h"
 #include "shell/main_menu.h"
@@ -23,14 +24,10 @@ protected:
     }
     QStringList faults()
     {
-        QStringList found{inputTakerFault(editor()),
-                          wayOutFault(editor()),
-                          underWayFault(editor()),
-                          profileFault(editor(), profile()),
-                          divisionsFault(profile()),
-                          madeScenarioFault(profile()),
-                          savingFault(editor()),
-                          divisionMenusFault(editor()),
+        QStringList found{inputTakerFault(editor()),    wayOutFault(editor()),
+                          underWayFault(editor()),      profileFault(editor(), profile()),
+                          divisionsFault(profile()),    madeScenarioFault(profile()),
+                          savingFault(editor()),        divisionMenusFault(editor()),
                           shipMenuFault(editor(), true)};
         found.removeAll(QString());
         return found;
@@ -97,7 +94,8 @@ TEST_F(Invariants, FindACountThatDoesNotFit)
     EXPECT_NE(madeScenarioFault(QByteArray(profile()).replace("DIVISIONCNT=2", "DIVISIONCNT=3")), QString());
     EXPECT_NE(madeScenarioFault(QByteArray(profile()).replace("SHIPCNT=2", "SHIPCNT=3")), QString());
     EXPECT_NE(madeScenarioFault(QByteArray(profile()).replace("SIDE=Red", "SIDE=Blue")), QString());
-    EXPECT_NE(madeScenarioFault(QByteArray(profile()).replace("[DIVISION1SHIP0]", "[DIVISION3SHIP0]")), QString());
+    EXPECT_NE(madeScenarioFault(QByteArray(profile()).replace("[DIVISION1SHIP0]", "[DIVISION3SHIP0]")),
+              QString());
 }
 
 TEST_F(Invariants, FindAScenarioThatCannotBeSaved)

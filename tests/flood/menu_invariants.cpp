@@ -65,7 +65,8 @@ QString divisionMenusFault(Editor& editor)
     const MainMenu& menu = editor.mainFrm().menu();
     for (const bool forceA : sides) {
         const int divisions = divisionsOf(editor.workingProfile(), forceA);
-        const int counted = forceA ? editor.divisionRecords().blueDivCount() : editor.divisionRecords().redDivCount();
+        const int counted =
+            forceA ? editor.divisionRecords().blueDivCount() : editor.divisionRecords().redDivCount();
         if (counted != divisions) {
             return QStringLiteral("%1 divisions of %2 are counted, %3 are there")
                 .arg(counted)

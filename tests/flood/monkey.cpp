@@ -15,10 +15,10 @@ namespace torvane::testing {
 namespace {
 
 constexpr auto turnEvent = static_cast<QEvent::Type>(QEvent::User + 77);
-constexpr int lastOfAll = -10000;   // behind what the events before have queued
-constexpr int settlingRounds = 3;   // of the event loop, in which all that was queued has happened
-constexpr int timePerInput = 25;    // milliseconds
-constexpr int walkOutEvery = 1500;  // events
+constexpr int lastOfAll = -10000;  // behind what the events before have queued
+constexpr int settlingRounds = 3;  // of the event loop, in which all that was queued has happened
+constexpr int timePerInput = 25;   // milliseconds
+constexpr int walkOutEvery = 1500; // events
 constexpr int mostStepsOut = 60;
 constexpr int keptInputs = 50;
 constexpr int memoryEvery = 1000; // events

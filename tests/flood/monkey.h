@@ -37,10 +37,10 @@ struct FloodOutcome
     std::int64_t allocatedGrowth = 0;
 };
 
-/// Sends the real editor events from outside, as a seed has it, and looks after each whether what holds of the
-/// editor still holds. When the author leaves the editor, another run of it begins. Works in a temporary folder
-/// of its own, which is the current folder meanwhile. Needs a QApplication that has not been run, with a stopped
-/// clock.
+/// Sends the real editor events from outside, as a seed has it, and looks after each whether what holds of
+/// the editor still holds. When the author leaves the editor, another run of it begins. Works in a temporary
+/// folder of its own, which is the current folder meanwhile. Needs a QApplication that has not been run, with
+/// a stopped clock.
 class Monkey : public QObject
 {
 public:

@@ -11,8 +11,8 @@
 #include <cstdio>
 #include <exception>
 
-// Floods the editor with events. The same seed sends the same events; a fault is met again by its seed and the
-// number of its event, or by the log that told of it.
+// Floods the editor with events. The same seed sends the same events; a fault is met again by its seed and
+// the number of its event, or by the log that told of it.
 
 #ifdef __SANITIZE_ADDRESS__
 // What is freed is not kept back for so long that memory could not be told flat.
@@ -40,8 +40,9 @@ bool readLog(const QString& path, FloodOptions& flood)
 {
     static const QRegularExpression line(QStringLiteral("seed (\\d+), event (\\d+)"));
     QFile file(path);
-    const QRegularExpressionMatch match =
-        file.open(QIODevice::ReadOnly) ? line.match(QString::fromUtf8(file.readAll())) : QRegularExpressionMatch();
+    const QRegularExpressionMatch match = file.open(QIODevice::ReadOnly)
+                                              ? line.match(QString::fromUtf8(file.readAll()))
+                                              : QRegularExpressionMatch();
     if (!match.hasMatch()) {
         return false;
     }
@@ -78,7 +79,8 @@ int report(const FloodOptions& flood, const FloodOutcome& outcome, const Census&
                 static_cast<unsigned long long>(outcome.digest));
     std::printf("memory: %lld KiB more in place than after the warm-up (bound %lld), %lld KiB more allocated "
                 "between runs (bound %lld)\n",
-                static_cast<long long>(outcome.residentGrowth / 1024), static_cast<long long>(residentBound / 1024),
+                static_cast<long long>(outcome.residentGrowth / 1024),
+                static_cast<long long>(residentBound / 1024),
                 static_cast<long long>(outcome.allocatedGrowth / 1024),
                 static_cast<long long>(allocatedBound / 1024));
     if (outcome.fault.isEmpty()) {

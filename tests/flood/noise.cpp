@@ -16,13 +16,13 @@ namespace {
 using Kind = Input::Kind;
 
 constexpr std::array keys{
-    Qt::Key_Tab,    Qt::Key_Backtab, Qt::Key_Return,   Qt::Key_Enter,     Qt::Key_Escape,   Qt::Key_Escape,
-    Qt::Key_Space,  Qt::Key_Left,    Qt::Key_Right,    Qt::Key_Up,        Qt::Key_Down,     Qt::Key_PageUp,
-    Qt::Key_Home,   Qt::Key_End,     Qt::Key_PageDown, Qt::Key_Backspace, Qt::Key_Delete,   Qt::Key_Insert,
-    Qt::Key_F1,     Qt::Key_F2,      Qt::Key_F4,       Qt::Key_F5,        Qt::Key_F10,      Qt::Key_F11,
-    Qt::Key_F12,    Qt::Key_Plus,    Qt::Key_Minus,    Qt::Key_Menu,      Qt::Key_A,        Qt::Key_C,
-    Qt::Key_D,      Qt::Key_E,       Qt::Key_F,        Qt::Key_G,         Qt::Key_H,        Qt::Key_S,
-    Qt::Key_V,      Qt::Key_X,       Qt::Key_Z,        Qt::Key_1,         Qt::Key_9};
+    Qt::Key_Tab,   Qt::Key_Backtab, Qt::Key_Return,   Qt::Key_Enter,     Qt::Key_Escape, Qt::Key_Escape,
+    Qt::Key_Space, Qt::Key_Left,    Qt::Key_Right,    Qt::Key_Up,        Qt::Key_Down,   Qt::Key_PageUp,
+    Qt::Key_Home,  Qt::Key_End,     Qt::Key_PageDown, Qt::Key_Backspace, Qt::Key_Delete, Qt::Key_Insert,
+    Qt::Key_F1,    Qt::Key_F2,      Qt::Key_F4,       Qt::Key_F5,        Qt::Key_F10,    Qt::Key_F11,
+    Qt::Key_F12,   Qt::Key_Plus,    Qt::Key_Minus,    Qt::Key_Menu,      Qt::Key_A,      Qt::Key_C,
+    Qt::Key_D,     Qt::Key_E,       Qt::Key_F,        Qt::Key_G,         Qt::Key_H,      Qt::Key_S,
+    Qt::Key_V,     Qt::Key_X,       Qt::Key_Z,        Qt::Key_1,         Qt::Key_9};
 
 constexpr int seldom = 400;
 
@@ -90,7 +90,8 @@ void Habits::anyMouse(QWindow& window, Inputs& inputs)
         return;
     }
     input.kind = Kind::Press;
-    input.button = m_random.oneOf(std::array{Qt::LeftButton, Qt::LeftButton, Qt::RightButton, Qt::MiddleButton});
+    input.button =
+        m_random.oneOf(std::array{Qt::LeftButton, Qt::LeftButton, Qt::RightButton, Qt::MiddleButton});
     inputs.push_back(input);
     if (how == 4) {
         // A drag that other events may interrupt.
@@ -118,7 +119,8 @@ void Habits::anyWindowChange(Editor& editor, QWindow& window, Inputs& inputs)
         input.size = QSize(100 + m_random.below(1600), 100 + m_random.below(1100));
     } else if (how < 6) {
         input.kind = Kind::State;
-        input.number = m_random.oneOf(std::array{Qt::WindowNoState, Qt::WindowMinimized, Qt::WindowMaximized});
+        input.number =
+            m_random.oneOf(std::array{Qt::WindowNoState, Qt::WindowMinimized, Qt::WindowMaximized});
     } else if (how < 8 && (!isMain || m_random.oneIn(seldom / 10))) {
         input.kind = Kind::Close;
     }

@@ -52,22 +52,23 @@ int divisionOf(QByteArrayView section)
     return (ship < 0 ? rest : rest.first(ship)).toInt();
 }
 
-/// A division of a scenario that the editor made. Its flagship may lie beyond its ships: it is stored at once,
-/// also in an edit that is cancelled.
+/// A division of a scenario that the editor made. Its flagship may lie beyond its ships: it is stored at
+/// once, also in an edit that is cancelled.
 QString madeDivisionFault(const ProfileText& profile, int division, QByteArrayView name, QByteArrayView side)
 {
     const QByteArray section = divisionSection(division).toLatin1();
     const ProfileText::Section& keys = *profile.section(section);
     if (valueOf(keys, "DIVISIONNAME") != name || valueOf(keys, "SIDE") != side) {
-        return QStringLiteral("%1 is %2 of %3").arg(text(section), text(valueOf(keys, "DIVISIONNAME")),
-                                                    text(valueOf(keys, "SIDE")));
+        return QStringLiteral("%1 is %2 of %3")
+            .arg(text(section), text(valueOf(keys, "DIVISIONNAME")), text(valueOf(keys, "SIDE")));
     }
     const int ships = valueOf(keys, "SHIPCNT").toByteArray().toInt();
     const int flagship = valueOf(keys, "FLAGSHIPINDEX").toByteArray().trimmed().toInt();
     if (ships < 1 || ships > 10 || flagship < 0 || flagship > 9) {
         return QStringLiteral("%1 has %2 ships and flagship %3").arg(text(section)).arg(ships).arg(flagship);
     }
-    // A division beyond the tenth finds no records of kept ships by its cut name: places may stay empty there.
+    // A division beyond the tenth finds no records of kept ships by its cut name: places may stay empty
+    // there.
     for (int ship = 0; ship < ships && division < oneDigitDivisions; ++ship) {
         const ProfileText::Section* place = profile.section(shipSection(division, ship).toLatin1());
         const QByteArrayView shipName = place == nullptr ? QByteArrayView() : valueOf(*place, "NAME");
@@ -142,8 +143,9 @@ QString madeScenarioFault(const QByteArray& bytes)
         return divisionOf(section.name) >= count;
     };
     const auto stray = std::ranges::find_if(profile.sections, isBeyond);
-    return stray == profile.sections.end() ? QString()
-                                           : QStringLiteral("[%1] beyond the last division").arg(text(stray->name));
+    return stray == profile.sections.end()
+               ? QString()
+               : QStringLiteral("[%1] beyond the last division").arg(text(stray->name));
 }
 
 QString savingFault(Editor& editor)

@@ -16,7 +16,8 @@ ProfileText ProfileText::of(const QByteArray& bytes)
         begin = end + 2;
         const qsizetype equals = line.indexOf('=');
         if (line.startsWith('[') && line.endsWith(']')) {
-            text.sections.push_back({.name = line.sliced(1, line.size() - 2).trimmed(), .keys = {}, .values = {}});
+            text.sections.push_back(
+                {.name = line.sliced(1, line.size() - 2).trimmed(), .keys = {}, .values = {}});
         } else if (equals > 0) {
             text.sections.back().keys.push_back(line.first(equals).trimmed());
             text.sections.back().values.push_back(line.sliced(equals + 1).trimmed());

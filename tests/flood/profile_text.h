@@ -7,8 +7,8 @@
 
 namespace torvane::testing {
 
-/// A working profile as it lies on disk, read by a way of its own: the checks don't lean on the reader that they
-/// check.
+/// A working profile as it lies on disk, read by a way of its own: the checks don't lean on the reader that
+/// they check.
 struct ProfileText
 {
     struct Section

@@ -7,7 +7,8 @@
 
 namespace torvane::testing {
 
-/// Numbers from a seed, the same on every machine: all that a run of the monkey decides comes from one of these.
+/// Numbers from a seed, the same on every machine: all that a run of the monkey decides comes from one of
+/// these.
 class Random
 {
 public:

@@ -24,9 +24,9 @@ public:
           m_helpViewer(language, m_messageBoxes),
           m_launcher(random),
           m_randomSource(random),
-          m_editor(gameFolder, {.language = language},
-                   {m_messageBoxes, m_inputBoxes, m_fileBoxes, m_helpViewer, m_launcher, m_clock,
-                    m_randomSource})
+          m_editor(
+              gameFolder, {.language = language},
+              {m_messageBoxes, m_inputBoxes, m_fileBoxes, m_helpViewer, m_launcher, m_clock, m_randomSource})
     {
     }
 

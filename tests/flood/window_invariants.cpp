@@ -1,5 +1,4 @@
 #include "flood/invariants.h"
-
 #include "platform/form.h"
 #include "platform/option_button.h"
 #include "shell/editor.h"
@@ -98,8 +97,9 @@ QString inputTakerFault(Editor& editor)
 QString wayOutFault(Editor& editor)
 {
     if (const QWidget* box = QApplication::activeModalWidget()) {
-        return hasUsable<QAbstractButton>(*box) ? QString()
-                                                : QStringLiteral("a box without a button that can be pressed");
+        return hasUsable<QAbstractButton>(*box)
+                   ? QString()
+                   : QStringLiteral("a box without a button that can be pressed");
     }
     const Form* front = editor.forms().front();
     if (front == nullptr) {
