@@ -1,4 +1,5 @@
 #include "divisions/records_fixture.h"
+#include "support/expect_error.h"
 
 namespace torvane::testing {
 namespace {
@@ -292,7 +293,8 @@ TEST_F(Edit, AShipThatACancelledEditLeftInTheListHasToBeInTheCatalogue)
     create(Side::Blue, 1, ships({1, 2}));
     files.write(files.divisionFile(Side::Blue, 1), ships({1, 99}));
     begin(Side::Blue, 1);
-    EXPECT_THROW(records.requireSavable(fields(Side::Blue, 1), false), RuntimeError);
+    expectError(RuntimeError::NoCurrentRecord,
+                [this] { records.requireSavable(fields(Side::Blue, 1), false); });
     files.write(files.divisionFile(Side::Blue, 1), ships({1}));
     EXPECT_NO_THROW(records.requireSavable(fields(Side::Blue, 1), false));
 }

@@ -59,10 +59,10 @@ struct CommandRow
 };
 
 inline constexpr CommandRow commandRows[] = {
-    {"mnuNew", 9, 500},      {"mnuLoad", 11, 350},    {"mnuSaveAs", 60, 0},       {"mnuSave", 90, 0},
-    {"mnuOverView", 80, 0},  {"mnuTargetBox", 40, 0}, {"mnuCreateForce", 260, 0}, {"mnuForce", 170, 0},
-    {"mnuDiv*Ship", 170, 0}, {"mnuDiv", 80, 0},       {"mnuHelpTopics", 8, 30},   {"mnuHotText", 15, 60},
-    {"mnuAbout", 15, 50},    {"mnuExit", 2, 10},
+    {"mnuNew", 14, 500},      {"mnuLoad", 20, 350},    {"mnuSaveAs", 60, 0},       {"mnuSave", 90, 0},
+    {"mnuOverView", 80, 0},  {"mnuTargetBox", 40, 0}, {"mnuCreateForce", 230, 0}, {"mnuForce", 170, 0},
+    {"mnuDiv*Ship", 170, 0}, {"mnuDiv", 80, 0},       {"mnuHelpTopics", 14, 30},   {"mnuHotText", 15, 60},
+    {"mnuAbout", 15, 50},    {"mnuExit", 14, 20},
 };
 
 /// What is typed: numbers within and beyond every range, words in all letters, and what could end a line, a

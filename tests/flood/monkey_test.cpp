@@ -1,3 +1,4 @@
+#include <QFile>
 #include <QProcess>
 #include <QRegularExpression>
 #include <QTemporaryDir>
@@ -50,14 +51,6 @@ TEST(Monkey, GetsPastTheSplashScreenIntoTheDialogs)
     for (const char* window : {"MainFrm", "OverviewFrm", "CreateDivisionFrm", "ShipDBaseFrm"}) {
         EXPECT_TRUE(run.told.contains(QLatin1StringView(window))) << window;
     }
-}
-
-// A division dialog in front, the author turned to the main window, and a box opened: it belonged to the main
-// window, which takes no input, and took none itself.
-TEST(Monkey, ABoxOverAWaitingWindowCanBeLeft)
-{
-    const Flood run = floodOf(1, 1600);
-    EXPECT_EQ(run.exitCode, 0) << run.told.toStdString();
 }
 
 TEST(Monkey, AnUnknownWordIsRefused)
