@@ -128,6 +128,19 @@ QStringList DivisionRecords::listBeforeEdit() const
     return isThere(path) ? m_files.read(path) : QStringList();
 }
 
+// The list outlasts an edit that kept ships in it and was cancelled: a ship that it names and the scenario
+// hasn't is a new one.
+QStringList DivisionRecords::shipsBeforeEdit(const QString& section) const
+{
+    QStringList names;
+    for (int m = 0; m < shipSections; ++m) {
+        names.append(m_profile.GetIniKey(shipPlace(section, m), u"NAME"));
+    }
+    QStringList lines = listBeforeEdit();
+    lines.removeIf([&names](const QString& line) { return !names.contains(shipNameOf(line).trimmed()); });
+    return lines;
+}
+
 int DivisionRecords::countDivisionShips(Side side, int number) const
 {
     return static_cast<int>(listOf(side, number).size());
@@ -165,7 +178,10 @@ QStringList DivisionRecords::sectionsOf(const DivisionVars& vars) const
 void DivisionRecords::requireSavable(const DivisionFields& fields, bool created) const
 {
     const DivisionVars vars = readDialogFields(fields);
-    const QStringList kept = created ? QStringList() : listBeforeEdit();
+    QStringList kept;
+    for (const QString& section : created ? QStringList() : sectionsOf(vars)) {
+        kept = shipsBeforeEdit(section);
+    }
     for (const QString& line : listOf(sideOfWord(vars.side), toInt16(numberValue(vars.number)))) {
         if (!kept.contains(line)) {
             m_ships.requireRecord(shipNameOf(line));
@@ -225,7 +241,7 @@ void DivisionRecords::moveShips(int division, const DivisionVars& vars, int oldC
 {
     const Side side = sideOfWord(vars.side);
     const QStringList lines = listOf(side, toInt16(numberValue(vars.number)));
-    const QStringList before = listBeforeEdit();
+    const QStringList before = shipsBeforeEdit(divisionSection(division));
     int place = 0;
     for (const QString& line : lines) {
         const QString target = shipSection(division, place);

@@ -130,6 +130,7 @@ public:
 private:
     QStringList listOf(Side side, int number) const;
     QStringList listBeforeEdit() const;
+    QStringList shipsBeforeEdit(const QString& section) const;
     QStringList sectionsOf(const DivisionVars& vars) const;
     void writeKeys(const QString& section, const DivisionVars& vars, const DivisionFields& fields, int ships);
     void moveShips(int division, const DivisionVars& vars, int oldCount);

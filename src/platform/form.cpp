@@ -129,12 +129,20 @@ static bool isInput(QEvent::Type type)
     }
 }
 
+// A box that was opened while this window was the active one, and so belongs to it.
+bool Form::isOfBox(const QObject* watched) const
+{
+    const auto* widget = qobject_cast<const QWidget*>(watched);
+    return widget != nullptr && widget->window() != this && widget->window()->isModal();
+}
+
 bool Form::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() == QEvent::ChildAdded) {
         watch(static_cast<QChildEvent*>(event)->child());
     }
-    if (m_inputEnabled || !isInput(event->type())) {
+    // A box waits for its answer whatever the window under it waits for.
+    if (m_inputEnabled || !isInput(event->type()) || isOfBox(watched)) {
         return leadByMnemonic(watched, event) || QWidget::eventFilter(watched, event);
     }
     // A click on a window that waits brings the window it waits for to the front.

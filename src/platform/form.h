@@ -99,6 +99,7 @@ private:
     }
 
     void watch(QObject* object);
+    bool isOfBox(const QObject* watched) const;
     void placeAbove(const Form& opener);
 
     FormStack& m_formStack;

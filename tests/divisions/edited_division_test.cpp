@@ -1,4 +1,5 @@
 #include "divisions/records_fixture.h"
+#include "support/expect_error.h"
 
 namespace torvane::testing {
 namespace {
@@ -271,6 +272,31 @@ TEST_F(Edit, WithAListCutBehindALineTheRestIsNoShip)
     for (const int place : {1, 2, 3}) {
         EXPECT_EQ(shipName(0, place), noShip) << place;
     }
+}
+
+TEST_F(Edit, AShipThatACancelledEditLeftInTheListGetsARecordOfItsOwn)
+{
+    create(Side::Blue, 1, ships({1, 2}));
+    begin(Side::Blue, 1);
+    files.write(files.divisionFile(Side::Blue, 1), ships({3, 2, 4}));
+    records.deleteDivisionScratch();
+    edit(Side::Blue, 1, ships({3, 2, 4}));
+    EXPECT_EQ(shipName(0, 0), QStringLiteral("Ship 3"));
+    EXPECT_EQ(shipName(0, 1), QStringLiteral("Ship 2"));
+    EXPECT_EQ(shipName(0, 2), QStringLiteral("Ship 4"));
+    EXPECT_EQ(key(shipSection(0, 2), "SHORTNAME"), QStringLiteral("S4"));
+    EXPECT_EQ(key(QStringLiteral("DIVISION0"), "SHIPCNT"), QStringLiteral("3"));
+}
+
+TEST_F(Edit, AShipThatACancelledEditLeftInTheListHasToBeInTheCatalogue)
+{
+    create(Side::Blue, 1, ships({1, 2}));
+    files.write(files.divisionFile(Side::Blue, 1), ships({1, 99}));
+    begin(Side::Blue, 1);
+    expectError(RuntimeError::NoCurrentRecord,
+                [this] { records.requireSavable(fields(Side::Blue, 1), false); });
+    files.write(files.divisionFile(Side::Blue, 1), ships({1}));
+    EXPECT_NO_THROW(records.requireSavable(fields(Side::Blue, 1), false));
 }
 
 TEST_F(Edit, EndsWithBothCopiesGone)

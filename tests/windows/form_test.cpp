@@ -5,6 +5,7 @@
 #include "support/printers.h"
 
 #include <QMenuBar>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QShortcutEvent>
 #include <QTemporaryDir>
@@ -313,6 +314,24 @@ TEST_F(Forms, WhatAFailedHandlerWroteIsOnDiskBeforeItsErrorIsShown)
         throw RuntimeError(RuntimeError::Overflow, QStringLiteral("x"));
     });
     EXPECT_TRUE(onDiskAtReport);
+}
+
+TEST_F(Forms, ABoxOverAWaitingWindowTakesItsAnswer)
+{
+    openDialog();
+    QMessageBox box(QMessageBox::Information, QStringLiteral("Title"), QStringLiteral("Text"),
+                    QMessageBox::Ok, &main);
+    box.open();
+    settle();
+    click(main.button);
+    EXPECT_TRUE(box.isVisible());
+    click(box.button(QMessageBox::Ok));
+    EXPECT_FALSE(box.isVisible());
+    box.open();
+    settle();
+    press(&box, Qt::Key_Escape);
+    EXPECT_FALSE(box.isVisible());
+    EXPECT_THAT(diary, IsEmpty());
 }
 
 TEST_F(Forms, AClickOnAWaitingWindowBringsTheDialogForward)
