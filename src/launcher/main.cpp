@@ -1,8 +1,7 @@
-// What a package puts into the user's menu. The editor works in its own folder, and a package's folders belong to the
-// system: so each user gets a game folder of his own, among his documents.
+// What a package puts into the user's menu. The editor works in its own folder, and a package's folders
+// belong to the system: so each user gets a game folder of his own, among his documents.
 
 #include "launcher/game_folder.h"
-
 #include "platform/bilingual.h"
 #include "platform/folder_lock.h"
 #include "platform/runtime_error.h"
@@ -20,10 +19,11 @@ using namespace torvane;
 namespace {
 
 constexpr Bilingual title{"Torvane - Scenario Editor", "Torvane - Szenario-Editor"};
-constexpr Bilingual made{"Your game folder is here:\n\n%1\n\nYour scenarios will lie in its folder Scenarios. They stay when "
-                         "the editor is uninstalled.",
-                         "Ihr Spielordner liegt hier:\n\n%1\n\nIhre Szenarien werden in seinem Ordner Scenarios liegen. Sie "
-                         "bleiben, wenn der Editor deinstalliert wird."};
+constexpr Bilingual made{
+    "Your game folder is here:\n\n%1\n\nYour scenarios will lie in its folder Scenarios. They stay when "
+    "the editor is uninstalled.",
+    "Ihr Spielordner liegt hier:\n\n%1\n\nIhre Szenarien werden in seinem Ordner Scenarios liegen. Sie "
+    "bleiben, wenn der Editor deinstalliert wird."};
 constexpr Bilingual failed{"The game folder could not be made ready:\n\n%1",
                            "Der Spielordner konnte nicht bereitgestellt werden:\n\n%1"};
 
@@ -48,7 +48,8 @@ QString gameFolder()
 /// While an editor runs there nothing is exchanged below it; the second one says so itself.
 bool isInUse(const QString& folder)
 {
-    return FolderLock(QDir(folder).filePath(QStringLiteral("ScenarioEditor"))).state() == FolderLock::State::InUse;
+    return FolderLock(QDir(folder).filePath(QStringLiteral("ScenarioEditor"))).state() ==
+           FolderLock::State::InUse;
 }
 
 } // namespace
@@ -72,6 +73,7 @@ int main(int argc, char** argv)
     QByteArray program = QFile::encodeName(QDir(folder).filePath(editorProgram(language)));
     char* const arguments[] = {program.data(), nullptr};
     ::execv(program.constData(), arguments);
-    QMessageBox::critical(nullptr, title.in(language), failed.in(language).arg(QString::fromLocal8Bit(program)));
+    QMessageBox::critical(nullptr, title.in(language),
+                          failed.in(language).arg(QString::fromLocal8Bit(program)));
     return 1;
 }
