@@ -10,7 +10,8 @@
 
 #include <cstdlib>
 
-// The input is the file of the ship catalogue. Every table is opened, walked and searched, as the editor does.
+// The input is the file of the ship catalogue. Every table is opened, walked and searched, as the editor
+// does.
 
 namespace {
 
@@ -30,9 +31,9 @@ struct Run
     char name[15] = "fuzz_catalogue";
     char* arguments[2] = {name, nullptr};
     QCoreApplication application{count, arguments};
-    QTemporaryDir folder{(QFileInfo(QStringLiteral("/dev/shm")).isWritable() ? QStringLiteral("/dev/shm")
-                                                                             : QDir::tempPath()) +
-                         QStringLiteral("/fuzz_catalogue-XXXXXX")};
+    QTemporaryDir folder{
+        (QFileInfo(QStringLiteral("/dev/shm")).isWritable() ? QStringLiteral("/dev/shm") : QDir::tempPath()) +
+        QStringLiteral("/fuzz_catalogue-XXXXXX")};
     DataControls controls;
 
     Run() { controls.bind(folder.path()); }
