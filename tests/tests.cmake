@@ -10,8 +10,10 @@ function(torvane_add_tests name)
     target_link_libraries(${name} PRIVATE GTest::gmock torvane_warnings)
     target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR}/tests)
     # What is tested is optimised, not the tests: compiling them is most of a build.
-    target_compile_options(${name} PRIVATE
-        $<$<CONFIG:Release>:-O1> $<$<BOOL:${TORVANE_SANITIZE}>:-O0>)
+    target_compile_options(${name} PRIVATE $<$<CONFIG:Release>:-O1>)
+    if(TORVANE_SANITIZE)
+        target_compile_options(${name} PRIVATE -O0)
+    endif()
     if(NOT CMAKE_CXX_COMPILER_LAUNCHER)
         target_precompile_headers(${name} PRIVATE
             <gmock/gmock.h> <QDir> <QFile> <QStringList> <QTemporaryDir>
