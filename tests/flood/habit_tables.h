@@ -59,9 +59,9 @@ struct CommandRow
 };
 
 inline constexpr CommandRow commandRows[] = {
-    {"mnuNew", 14, 500},      {"mnuLoad", 20, 350},    {"mnuSaveAs", 60, 0},       {"mnuSave", 90, 0},
+    {"mnuNew", 14, 500},     {"mnuLoad", 20, 350},    {"mnuSaveAs", 60, 0},       {"mnuSave", 90, 0},
     {"mnuOverView", 80, 0},  {"mnuTargetBox", 40, 0}, {"mnuCreateForce", 230, 0}, {"mnuForce", 170, 0},
-    {"mnuDiv*Ship", 170, 0}, {"mnuDiv", 80, 0},       {"mnuHelpTopics", 14, 30},   {"mnuHotText", 15, 60},
+    {"mnuDiv*Ship", 170, 0}, {"mnuDiv", 80, 0},       {"mnuHelpTopics", 14, 30},  {"mnuHotText", 15, 60},
     {"mnuAbout", 15, 50},    {"mnuExit", 14, 20},
 };
 
