@@ -178,7 +178,7 @@ QStringList DivisionRecords::sectionsOf(const DivisionVars& vars) const
 void DivisionRecords::requireSavable(const DivisionFields& fields, bool created) const
 {
     const DivisionVars vars = readDialogFields(fields);
-    QStringList kept;
+    QStringList kept = created ? QStringList() : listBeforeEdit();
     for (const QString& section : created ? QStringList() : sectionsOf(vars)) {
         kept = shipsBeforeEdit(section);
     }

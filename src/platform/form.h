@@ -45,13 +45,17 @@ protected:
     /// The close box. A dialog does what its Cancel does; where nothing is laid down, nothing happens.
     virtual void onCloseBox() {}
 
-    /// Connects a handler to a signal. The handler takes the signal's arguments or none.
+    /// Connects a handler to a signal. The handler takes the signal's arguments or none. The click of a
+    /// button counts only while the window is shown and takes input.
     template <typename Sender, typename Signal, typename Handler>
     void on(Sender* sender, Signal signal, Handler handler)
     {
         static_assert(Fits<Handler, Signal>::value, "the handler takes the signal's arguments or none");
-        const auto call = [this, handler = std::move(handler)](const auto&... arguments) {
-            m_formStack.runHandler([&] { callHandler(handler, arguments...); });
+        const bool isClick = isClickOf(signal);
+        const auto call = [this, isClick, handler = std::move(handler)](const auto&... arguments) {
+            if (!isClick || takesClicks()) {
+                m_formStack.runHandler([&] { callHandler(handler, arguments...); });
+            }
         };
         connect(sender, signal, this, call);
     }
@@ -97,6 +101,17 @@ private:
             handler();
         }
     }
+
+    template <typename Signal>
+    static bool isClickOf(Signal signal)
+    {
+        if constexpr (std::is_same_v<Signal, void (QAbstractButton::*)(bool)>) {
+            return signal == &QAbstractButton::clicked;
+        }
+        return false;
+    }
+    // A button that a key presses is clicked a moment later, when its window may have been left.
+    bool takesClicks() const { return m_inputEnabled && isVisible(); }
 
     void watch(QObject* object);
     bool isOfBox(const QObject* watched) const;

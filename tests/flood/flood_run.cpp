@@ -1,3 +1,4 @@
+#include "divisions/create_division_frm.h"
 #include "flood/memory.h"
 #include "flood/monkey.h"
 #include "platform/form.h"
@@ -8,6 +9,7 @@
 #include "shell/main_menu.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QDir>
 #include <QFile>
 
@@ -39,6 +41,18 @@ void copyAll(const QString& from, const QString& to, const QString& suffix)
             throw std::runtime_error("can't copy " + name.toStdString());
         }
     }
+}
+
+/// A load leaves the marks of a new scenario's first divisions as they are: the count of a side whose mark is
+/// still set starts from 0 though divisions were loaded.
+bool hasStaleMarks()
+{
+    for (const QWidget* window : QApplication::topLevelWidgets()) {
+        if (const auto* dialog = qobject_cast<const CreateDivisionFrm*>(window)) {
+            return valueOf(dialog->ChknewBlueFlag) == 1 || valueOf(dialog->ChknewRedFlag) == 1;
+        }
+    }
+    return false;
 }
 
 } // namespace
@@ -80,7 +94,7 @@ void Monkey::startRun()
     m_run = std::make_unique<Run>(QStringLiteral("."), language, m_random);
     m_run->messageBoxes().onShow = [this](const MessageBox& box) { hearBox(box); };
     m_run->fileBoxes().onOpen = [this](const QString& name) {
-        m_origin = m_soundFiles.contains(name) ? Origin::Made : Origin::Foreign;
+        m_origin = m_soundFiles.contains(name) && !hasStaleMarks() ? Origin::Made : Origin::Foreign;
         m_allDrawn = true;
         m_census.count(QStringLiteral("files"), m_origin == Origin::Made
                                                     ? QStringLiteral("loaded, of its own")

@@ -9,6 +9,7 @@
 #include <QPushButton>
 #include <QShortcutEvent>
 #include <QTemporaryDir>
+#include <QTest>
 #include <QVBoxLayout>
 
 #include <gmock/gmock.h>
@@ -16,7 +17,9 @@
 namespace torvane::testing {
 namespace {
 
+using ::testing::Contains;
 using ::testing::IsEmpty;
+using ::testing::Not;
 
 /// A window that keeps a diary of what happens to it.
 class DiaryForm : public Form
@@ -314,6 +317,22 @@ TEST_F(Forms, WhatAFailedHandlerWroteIsOnDiskBeforeItsErrorIsShown)
         throw RuntimeError(RuntimeError::Overflow, QStringLiteral("x"));
     });
     EXPECT_TRUE(onDiskAtReport);
+}
+
+TEST_F(Forms, AClickByKeyThatComesWhenTheWindowWaitsOrIsGoneIsDropped)
+{
+    constexpr int longerThanAClick = 300; // milliseconds
+    main.button->animateClick();
+    openDialog();
+    dialog.button->animateClick();
+    dialog.hideForm();
+    QTest::qWait(longerThanAClick);
+    EXPECT_THAT(diary, Not(Contains(QStringLiteral("main clicked"))));
+    EXPECT_THAT(diary, Not(Contains(QStringLiteral("dialog clicked"))));
+    main.setInputEnabled(true);
+    main.button->animateClick();
+    QTest::qWait(longerThanAClick);
+    EXPECT_THAT(diary, Contains(QStringLiteral("main clicked")));
 }
 
 TEST_F(Forms, ABoxOverAWaitingWindowTakesItsAnswer)
