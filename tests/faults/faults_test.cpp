@@ -1,6 +1,12 @@
 #include "faults/damage.h"
+#include "faults/recovery.h"
 #include "faults/sweep.h"
+#include "platform/text_files.h"
+#include "scenario_file/recover_scenario.h"
 #include "support/printers.h"
+
+#include <QDateTime>
+#include <QDir>
 
 #include <gmock/gmock.h>
 
@@ -190,6 +196,30 @@ TEST_F(Judgement, SeesAStrayFileAndAllowsARecoveredOne)
     putScenario(".torvane-abcdef", newBytes);
     putScenario("First.scn.abcdef", newBytes);
     EXPECT_EQ(strayScenarios(folder).size(), 2);
+}
+
+TEST_F(Judgement, WantsTheScenarioOfAKilledRunBackAsItWas)
+{
+    const QByteArray left = "[SCENARIODATA]\r\nTITLE=Night\r\n[SCENARIOINFO]\r\nDIVISIONCNT=1\r\n"
+                            "[DIVISION0]\r\nDIVISIONNAME=Division 1\r\nSIDE=Blue\r\n"
+                            "[DIVISION0SHIP0]\r\nNAME=Hood\r\nXPOSITION=100\r\nZPOSITION=-200\r\n";
+    EXPECT_EQ(complaintsAboutRecovery(folder, left).size(), 1) << "it is lost";
+    EXPECT_THAT(complaintsAboutRecovery(folder, {}), IsEmpty()) << "there was none";
+    const QString profile = folder + QStringLiteral("/ScenarioEditor/iniTemp.bmm");
+    QDir().mkpath(folder + QStringLiteral("/ScenarioEditor"));
+    writeWholeFile(profile, left);
+    const QString recovered = recoverScenario(profile, folder + QStringLiteral("/Scenarios"),
+                                              Language::English, QDateTime(QDate(1941, 5, 24), QTime(5, 52)))
+                                  .value();
+    EXPECT_THAT(complaintsAboutRecovery(folder, left), IsEmpty());
+    EXPECT_EQ(complaintsAboutRecovery(folder, {}).size(), 1) << "nothing was there to recover";
+    for (const char* change : {"NAME=Hood", "YARDSXPOSITION=100", "SIDE=Blue"}) {
+        QByteArray other = readWholeFile(recovered);
+        ASSERT_TRUE(other.contains(change)) << change;
+        writeWholeFile(recovered, other.replace(change, QByteArray(change) + "7"));
+        EXPECT_EQ(complaintsAboutRecovery(folder, left).size(), 1) << change;
+        writeWholeFile(recovered, other.replace(QByteArray(change) + "7", change));
+    }
 }
 
 TEST_F(Judgement, WantsABoxThatNamesWhatFailedWhereSomethingIsLost)

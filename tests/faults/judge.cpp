@@ -1,12 +1,12 @@
 #include "faults/judge.h"
 
+#include "faults/recovery.h"
 #include "faults/scripted_names.h"
 #include "platform/profile.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QRegularExpression>
 
 #include <algorithm>
 #include <utility>
@@ -165,14 +165,14 @@ QStringList complaintsAboutScenarios(const QString& folder, bool hadOldScenarios
 
 QStringList strayScenarios(const QString& folder)
 {
-    static const QRegularExpression recovered(
-        QStringLiteral("\\((recovered|wiederhergestellt)\\b.*\\.scn\\z"));
     QStringList names = QDir(folder + QStringLiteral("/Scenarios"))
                             .entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot, QDir::Name);
     for (const char* name : scenarioNames) {
         names.removeAll(QLatin1StringView(name));
     }
-    names.removeIf([](const QString& name) { return name.contains(recovered); });
+    for (const QString& name : recoveredScenarios(folder)) {
+        names.removeAll(name);
+    }
     return names;
 }
 

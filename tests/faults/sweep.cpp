@@ -1,7 +1,9 @@
 #include "faults/sweep.h"
 
 #include "faults/damage.h"
+#include "faults/recovery.h"
 #include "faults/scripted_names.h"
+#include "platform/text_files.h"
 
 #include <QDir>
 #include <QElapsedTimer>
@@ -237,7 +239,10 @@ QStringList Sweep::judgeKilled(const RunReport& run, const QString& folder) cons
         complaints.append(QStringLiteral("it neither ended nor was it killed:\n") + run.said);
     }
     complaints += complaintsAboutScenarios(folder, m_withOldScenarios, m_undisturbed);
+    const QString profile = folder + QStringLiteral("/ScenarioEditor/iniTemp.bmm");
+    const QByteArray left = QFile::exists(profile) ? readWholeFile(profile) : QByteArray();
     complaints += complaintsAboutNextStart(runRoad(folder, {QStringLiteral("--look")}));
+    complaints += complaintsAboutRecovery(folder, left);
     for (const QString& name : strayScenarios(folder)) {
         complaints.append(QStringLiteral("left in Scenarios after the next start: ") + name);
     }
