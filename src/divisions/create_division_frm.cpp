@@ -98,6 +98,7 @@ void CreateDivisionFrm::applyCaptions(Language language)
 {
     applyCaptionTable(*this, divisionCaptions, language);
     applyControlTips(*this, divisionTips, language);
+    m_ui->GrdDivision->setAccessibleName(divisionText(DivisionText::Division, language));
     QStringList letters;
     for (const Bilingual& letter : compassLetters) {
         letters.append(letter.in(language));

@@ -32,4 +32,10 @@ constexpr std::array<CaptionRow, 10> mapTips{{
       "Verschiebt die Karte nach oben oder unten; der Schieber zeigt nicht an, wo Sie sind"}},
 }};
 
+constexpr std::array<CaptionRow, 3> mapNames{{
+    {"Picture_Main"_L1, {"Map", "Karte"}},
+    {"HScroll1"_L1, {"Map to the left or right", "Karte nach links oder rechts"}},
+    {"VScroll1"_L1, {"Map up or down", "Karte nach oben oder unten"}},
+}};
+
 } // namespace torvane

@@ -8,5 +8,7 @@ namespace torvane {
 
 /// What the tool tips of the main window say of its read-outs and bars, by design name.
 extern const std::array<CaptionRow, 10> mapTips;
+/// What assistive tools call the controls of the map that carry no caption.
+extern const std::array<CaptionRow, 3> mapNames;
 
 } // namespace torvane

@@ -70,6 +70,7 @@ void OverviewFrm::applyCaptions(Language language)
 {
     applyCaptionTable(*this, overviewCaptions, language);
     applyControlTips(*this, overviewTips, language);
+    applyControlNames(*this, overviewNames, language);
     applyMnemonics();
 }
 

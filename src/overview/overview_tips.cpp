@@ -102,4 +102,9 @@ constexpr std::array<CaptionRow, 3> environmentGroups{{
     {"fraPlace"_L1, {"Calendar and Theatre", "Kalender und Seegebiet"}},
 }};
 
+constexpr std::array<CaptionRow, 2> overviewNames{{
+    {"RTxtBBlueBrief"_L1, {"Objective of Force A", "Ziel der Streitkraft A"}},
+    {"RTxtBRedBrief"_L1, {"Objective of Force B", "Ziel der Streitkraft B"}},
+}};
+
 } // namespace torvane

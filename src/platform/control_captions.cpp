@@ -22,6 +22,15 @@ void applyCaptionTable(QWidget& window, std::span<const CaptionRow> captions, La
     }
 }
 
+void applyControlNames(QWidget& window, std::span<const CaptionRow> names, Language language)
+{
+    for (const CaptionRow& row : names) {
+        if (auto* control = window.findChild<QWidget*>(row.control)) {
+            control->setAccessibleName(row.caption.in(language));
+        }
+    }
+}
+
 void applyControlTips(QWidget& window, std::span<const CaptionRow> tips, Language language)
 {
     for (const CaptionRow& row : tips) {

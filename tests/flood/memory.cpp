@@ -1,11 +1,13 @@
 #include "flood/memory.h"
 
+#include <cstddef>
 #include <cstdio>
 #include <malloc.h>
 #include <unistd.h>
 
 #ifdef __SANITIZE_ADDRESS__
-#include <sanitizer/allocator_interface.h>
+// Of the sanitizers' run time; their header comes with some compilers only.
+extern "C" std::size_t __sanitizer_get_current_allocated_bytes();
 #endif
 
 namespace torvane::testing {

@@ -18,6 +18,8 @@ class GameFolderOfAUser : public ::testing::Test
 protected:
     GameFolderOfAUser()
     {
+        // A test without privileges must still get at the package.
+        ::chmod(QFile::encodeName(m_folder.path()).constData(), 0755);
         // The system's files are read-only for a user.
         deliver("TorvaneScenarioEditor", "german 1");
         deliver("TorvaneScenarioEditor-English", "english 1");
