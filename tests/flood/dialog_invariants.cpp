@@ -3,6 +3,7 @@
 #include "platform/list_combo.h"
 #include "shell/editor.h"
 #include "ship_selection/ship_dbase_frm.h"
+#include "ship_state/ship_data_frm.h"
 #include "store/profile_keys.h"
 
 #include <QFile>
@@ -117,10 +118,27 @@ QString selectionFault(Editor& editor, const Form& dialog)
     return difference(QStringLiteral("the list of picks"), rows.join(u','), listed.join(u','));
 }
 
-/// The ship data dialog shows the first ship of its short name.
+bool isInProfile(const WorkingProfile& profile, const QString& shipName)
+{
+    for (int n = 0; n < divisionSections; ++n) {
+        for (int m = 0; m < shipSections; ++m) {
+            if (profile.GetIniKey(shipSection(n, m), u"NAME") == shipName) {
+                return true;
+            }
+        }
+    }
+    return false;
+}
+
+/// The ship data dialog shows the first ship of its short name. A ship that the scenario hasn't, from an
+/// entry that an earlier one left in the menus, leaves the dialog as it stood.
 QString shipFault(Editor& editor, const Form& dialog)
 {
     const WorkingProfile& profile = editor.workingProfile();
+    constexpr qsizetype typeLetters = 3; // and a blank
+    if (!isInProfile(profile, editor.shipDataFrm().lblShipName->text().mid(typeLetters).trimmed())) {
+        return {};
+    }
     const QString name = shown(dialog, "LblShrtName");
     for (int n = 0; n < divisionSections && !name.startsWith(QStringLiteral("Duncan")); ++n) {
         for (int m = 0; m < 10; ++m) {
