@@ -143,6 +143,7 @@ void Monkey::log(const QString& line)
 void Monkey::fail(const QString& fault)
 {
     m_outcome.fault = fault;
+    m_outcome.profile = m_run->editor().workingProfile().parsed().bytes();
     finish();
 }
 

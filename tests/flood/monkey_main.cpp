@@ -89,7 +89,8 @@ int report(const FloodOptions& flood, const FloodOutcome& outcome, const Census&
     for (const QString& line : outcome.lastInputs) {
         std::printf("  %s\n", qPrintable(line));
     }
-    std::printf("FAULT: %s\n", qPrintable(outcome.fault));
+    std::printf("-- the working profile\n%s--\nFAULT: %s\n", outcome.profile.constData(),
+                qPrintable(outcome.fault));
     return 1;
 }
 
