@@ -15,6 +15,7 @@ namespace torvane::testing {
 namespace {
 
 constexpr bool sides[] = {true, false};
+constexpr std::size_t plottedKeys = 8; // of a division; the map doesn't ask for the last
 constexpr int refilledDivisions = 4; // the Edit Ship menus of the fifth and sixth keep what they once showed
 
 /// Divisions of a force in the working profile, to the first gap.
@@ -37,10 +38,14 @@ QHash<QString, QString> shipCaptions(const WorkingProfile& profile)
     QHash<QString, QString> captions;
     for (int n = 0; n < divisionSections; ++n) {
         const QString section = divisionSection(n);
-        const QString name = profile.GetIniKey(section, u"DIVISIONNAME");
-        if (name == invalidValue) {
+        // A setting that was left empty, such as a speed, ends the walk of the map.
+        const bool isWhole =
+            std::all_of(divisionKeys.begin(), divisionKeys.begin() + plottedKeys,
+                        [&](QStringView key) { return profile.GetIniKey(section, key) != invalidValue; });
+        if (!isWhole) {
             break;
         }
+        const QString name = profile.GetIniKey(section, u"DIVISIONNAME");
         const bool forceA = profile.GetIniKey(section, u"SIDE") == u"Blue";
         const int division = name.right(1).toInt();
         const int ships = std::min(profile.GetIniKey(section, u"SHIPCNT").toInt(), shipEntries(division));
