@@ -30,7 +30,7 @@ struct FloodOptions
 struct FloodOutcome
 {
     QString fault;           ///< the invariant that failed; empty if none did
-    QByteArray profile; ///< the working profile at the fault
+    QByteArray profile;      ///< the working profile at the fault
     std::int64_t events = 0; ///< carried out
     QStringList lastInputs;
     std::uint64_t digest = 0; ///< of all inputs: the same for the same seed
