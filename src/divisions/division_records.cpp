@@ -178,8 +178,9 @@ QStringList DivisionRecords::sectionsOf(const DivisionVars& vars) const
 void DivisionRecords::requireSavable(const DivisionFields& fields, bool created) const
 {
     const DivisionVars vars = readDialogFields(fields);
+    const QStringList sections = created ? QStringList() : sectionsOf(vars);
     QStringList kept = created ? QStringList() : listBeforeEdit();
-    for (const QString& section : created ? QStringList() : sectionsOf(vars)) {
+    for (const QString& section : sections) {
         kept = shipsBeforeEdit(section);
     }
     for (const QString& line : listOf(sideOfWord(vars.side), toInt16(numberValue(vars.number)))) {
@@ -187,7 +188,7 @@ void DivisionRecords::requireSavable(const DivisionFields& fields, bool created)
             m_ships.requireRecord(shipNameOf(line));
         }
     }
-    for (const QString& section : created ? QStringList() : sectionsOf(vars)) {
+    for (const QString& section : sections) {
         toInt16(numberValue(m_profile.GetIniKey(section, u"SHIPCNT")));
     }
 }

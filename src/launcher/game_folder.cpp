@@ -10,6 +10,8 @@
 #include <QFileInfo>
 #include <QMap>
 
+#include <optional>
+
 namespace torvane {
 
 namespace {
@@ -70,20 +72,24 @@ bool isScenario(const QString& name)
     return name.startsWith(u"Scenarios/");
 }
 
-/// Whether the file of the folder is to become that of the package.
-bool isDue(const QString& name, const QString& path, const QByteArray& delivered)
+/// What lies in the folder; nothing if there is no such file.
+std::optional<QByteArray> presentBytes(const QString& path)
 {
-    if (!QFileInfo::exists(path)) {
+    return isThere(path) ? std::optional(readWholeFile(path)) : std::nullopt;
+}
+
+/// Whether the file of the folder is to become that of the package.
+bool isDue(const QString& name, const std::optional<QByteArray>& present, const QByteArray& delivered)
+{
+    if (!present) {
         return delivered.isEmpty() || !isScenario(name);
     }
-    return isProgram(name) || sumOf(readWholeFile(path)) == delivered;
+    return isProgram(name) || sumOf(*present) == delivered;
 }
 
 void deliver(const QByteArray& bytes, const QString& path, bool program)
 {
-    if (QFileInfo::exists(path) && readWholeFile(path) == bytes) {
-        return;
-    }
+    QDir().mkpath(QFileInfo(path).path());
     writeWholeFile(path, bytes);
     const QFile::Permissions rights = QFile::permissions(path) | QFile::ReadOwner | QFile::WriteOwner;
     QFile::setPermissions(path, program ? rights | QFile::ExeOwner : rights);
@@ -110,11 +116,14 @@ bool refreshGameFolder(const QString& package, const QString& folder)
     for (const QString& name : names) {
         const QString path = target.filePath(name);
         const QByteArray bytes = readWholeFile(QDir(package).filePath(name));
-        if (isDue(name, path, record.value(name))) {
-            QDir().mkpath(QFileInfo(path).path());
-            deliver(bytes, path, isProgram(name));
-            record.insert(name, sumOf(bytes));
+        const std::optional<QByteArray> present = presentBytes(path);
+        if (!isDue(name, present, record.value(name))) {
+            continue;
         }
+        if (present != bytes) {
+            deliver(bytes, path, isProgram(name));
+        }
+        record.insert(name, sumOf(bytes));
     }
     QDir().mkpath(target.filePath(QStringLiteral("Scenarios")));
     writeRecord(recordPath, record);

@@ -12,11 +12,16 @@
 
 namespace torvane {
 
+void prepareApplication()
+{
+    QApplication::setStyle(QStringLiteral("fusion"));
+    QApplication::setQuitOnLastWindowClosed(false);
+}
+
 int runEditor(int& argc, char** argv, Language language)
 {
     QApplication application(argc, argv);
-    QApplication::setStyle(QStringLiteral("fusion"));
-    QApplication::setQuitOnLastWindowClosed(false);
+    prepareApplication();
 
     const ToolkitTexts toolkitTexts(language);
 

@@ -16,6 +16,7 @@
 #include "platform/toolkit_texts.h"
 #include "scenario_file/save_scenario.h"
 #include "shell/main_frm.h"
+#include "shell/run_editor.h"
 #include "support/input.h"
 
 #include <QApplication>
@@ -213,8 +214,7 @@ int main(int argc, char** argv)
     ::alarm(secondsToHang);
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication application(argc, argv);
-    QApplication::setStyle(QStringLiteral("fusion"));
-    QApplication::setQuitOnLastWindowClosed(false);
+    torvane::prepareApplication();
     const Options options = optionsFrom(QApplication::arguments());
     if (options.folder.isEmpty()) {
         say(QStringLiteral("usage: scripted_run <game folder> [--look] [--fail N | --fail-from N | --kill N] "

@@ -1,6 +1,7 @@
 #include "flood/memory.h"
 #include "flood/monkey.h"
 #include "flood/still_clock.h"
+#include "shell/run_editor.h"
 
 #include <QApplication>
 #include <QFile>
@@ -114,8 +115,7 @@ int main(int argc, char** argv)
     qputenv("QT_QPA_PLATFORM", "offscreen");
     qputenv("QT_NO_GLIB", "1");
     QApplication application(argc, argv);
-    QApplication::setStyle(QStringLiteral("fusion"));
-    QApplication::setQuitOnLastWindowClosed(false);
+    torvane::prepareApplication();
     const Arguments arguments = argumentsOf(QCoreApplication::arguments());
     if (!arguments.valid) {
         std::fprintf(stderr, "usage: monkey [--seed n] [--events n] [--from-log file]\n");

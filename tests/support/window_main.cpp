@@ -1,3 +1,5 @@
+#include "shell/run_editor.h"
+
 #include <QApplication>
 
 #include <gmock/gmock.h>
@@ -9,8 +11,7 @@ int main(int argc, char** argv)
         qputenv("QT_QPA_PLATFORM", "offscreen");
     }
     QApplication application(argc, argv);
-    QApplication::setStyle(QStringLiteral("fusion"));
-    QApplication::setQuitOnLastWindowClosed(false);
+    torvane::prepareApplication();
     testing::InitGoogleMock(&argc, argv);
     return RUN_ALL_TESTS();
 }

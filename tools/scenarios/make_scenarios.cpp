@@ -3,6 +3,7 @@
 //     make_scenarios CATALOGUE PLANS FOLDER [PICTURES]
 
 #include "scenarios/scenario_author.h"
+#include "shell/run_editor.h"
 
 #include <QApplication>
 #include <QDir>
@@ -75,8 +76,7 @@ int main(int argc, char** argv)
         qputenv("QT_QPA_PLATFORM", "offscreen");
     }
     QApplication application(argc, argv);
-    QApplication::setStyle(QStringLiteral("fusion"));
-    QApplication::setQuitOnLastWindowClosed(false);
+    torvane::prepareApplication();
     const QStringList arguments = QApplication::arguments();
     if (arguments.size() != 4 && arguments.size() != 5) {
         std::fputs("usage: make_scenarios CATALOGUE PLANS FOLDER [PICTURES]\n", stderr);
