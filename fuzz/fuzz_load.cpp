@@ -4,13 +4,20 @@
 #include "scenario_file/load_scenario.h"
 #include "scenario_file/save_scenario.h"
 #include "scenario_file/scenario_format.h"
+#include "shell/commands.h"
+#include "shell/loaded_forces.h"
+#include "shell/main_menu.h"
 #include "store/working_profile.h"
 
+#include <QAction>
+#include <QApplication>
 #include <QDir>
+#include <QMenuBar>
 #include <QTemporaryDir>
 
 #include <algorithm>
 #include <cstdlib>
+#include <memory>
 #include <optional>
 
 // The input is a scenario file. It goes the whole road of a load: profile, target area, scratch files, menus.
@@ -26,12 +33,19 @@ void require(bool holds)
     }
 }
 
-/// Checks that what reaches the menus is in order, and counts it.
+/// The real main menu. Checks that what reaches it is in order, and that it shows what came.
 class CheckedMenus : public ForceMenus
 {
 public:
+    void begin()
+    {
+        m_menu->resetForceMenus();
+        blue = red = 0;
+        m_pending = Next::Show;
+    }
     void showDivision(Side side, int number) override
     {
+        m_forces.showDivision(side, number);
         require(m_pending == Next::Show);
         require(number == ++(side == Side::Blue ? blue : red));
         require(blue + red <= divisionSections);
@@ -39,19 +53,38 @@ public:
     }
     void enableForces() override
     {
+        m_forces.enableForces();
         require(m_pending == Next::Enable);
         m_pending = Next::Add;
     }
-    void addRepositionMenuEntry(const QString& /*name*/, const QString& /*side*/) override
+    void addRepositionMenuEntry(const QString& name, const QString& side) override
     {
+        m_forces.addRepositionMenuEntry(name, side);
         require(m_pending == Next::Add);
         m_pending = Next::Show;
+    }
+
+    /// What the author sees of the divisions that came.
+    void requireShown() const
+    {
+        require(m_menu->blueDivisionCount() + m_menu->redDivisionCount() == blue + red);
+        for (const bool forceA : {true, false}) {
+            const int shown = std::max(1, forceA ? blue : red);
+            for (int number = 1; number <= divisionsPerSide; ++number) {
+                require(m_menu->action(editEntryName(forceA, number))->isVisible() == (number <= shown));
+            }
+            const QLatin1StringView edit(forceA ? "editForceA" : "editForceB");
+            require(m_menu->action(edit)->isEnabled() == (blue + red > 0));
+        }
     }
 
     int blue = 0;
     int red = 0;
 
 private:
+    QMenuBar m_bar;
+    MainMenu* const m_menu = new MainMenu(&m_bar); // the bar's
+    LoadedForces m_forces{*m_menu};
     enum class Next { Show, Enable, Add };
     Next m_pending = Next::Show;
 };
@@ -63,6 +96,18 @@ QString folderTemplate()
     return (QFileInfo(memory).isWritable() ? memory : QDir::tempPath()) + QStringLiteral("/fuzz_load-XXXXXX");
 }
 
+/// Menus want an application, though no screen.
+struct Application
+{
+    int m_count = 1;
+    char m_name[10] = "fuzz_load";
+    char* m_arguments[2] = {m_name, nullptr};
+    std::unique_ptr<QApplication> m_application = [this] {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+        return std::make_unique<QApplication>(m_count, m_arguments);
+    }();
+};
+
 class Store
 {
 public:
@@ -71,7 +116,7 @@ public:
     {
         files.killFiles();
         files.killSurplusDivisions();
-        menus = {};
+        menus.begin();
         target = {};
         try {
             rebuildStore(Profile::parse(bytes), profile, files, target, menus);
@@ -169,9 +214,11 @@ void requireRoundTrip(Store& store)
 
 extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t size)
 {
+    static Application application;
     static Store store;
     const QByteArray bytes(reinterpret_cast<const char*>(data), static_cast<qsizetype>(size));
     if (store.load(bytes)) {
+        store.menus.requireShown();
         requireWellFormed(store);
         requireScratchFiles(store);
         requireRoundTrip(store);

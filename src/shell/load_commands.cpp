@@ -7,8 +7,8 @@
 #include "scenario_file/load_scenario.h"
 #include "scenario_file/scenario_format.h"
 #include "shell/captions.h"
-#include "shell/commands.h"
 #include "shell/editor.h"
+#include "shell/loaded_forces.h"
 #include "shell/main_frm.h"
 #include "shell/main_menu.h"
 #include "shell/progress_panel.h"
@@ -28,35 +28,6 @@ void enable(const MainMenu& menu, std::initializer_list<const char*> entries)
         menu.setEnabled(QLatin1StringView(entry), true);
     }
 }
-
-/// The main menu, as a load fills it.
-class LoadedForces : public ForceMenus
-{
-public:
-    explicit LoadedForces(MainMenu& menu) : m_menu(menu) {}
-
-    void showDivision(Side side, int number) override
-    {
-        if (number > divisionsPerSide) {
-            return;
-        }
-        const bool forceA = side == Side::Blue;
-        m_menu.setVisible(editEntryName(forceA, number), true);
-        m_menu.setVisible(QLatin1StringView(repositionRow(forceA, number).entry), true);
-    }
-    void enableForces() override
-    {
-        enable(m_menu, {"mnuCreateForceA", "editForceA", "mnuRepoForceA", "mnuCreateForceB", "editForceB",
-                        "mnuRepoForceB"});
-    }
-    void addRepositionMenuEntry(const QString& name, const QString& side) override
-    {
-        m_menu.addRepositionMenuEntry(name, side);
-    }
-
-private:
-    MainMenu& m_menu;
-};
 
 std::optional<QString> chosenFile(Editor& editor)
 {
