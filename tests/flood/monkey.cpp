@@ -9,6 +9,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QEvent>
+#include <QWidget>
 
 namespace torvane::testing {
 
@@ -27,6 +28,9 @@ constexpr int memoryEvery = 1000; // events
 
 FloodOutcome Monkey::run()
 {
+    if (m_options.paintEvery > 1) {
+        QCoreApplication::instance()->installEventFilter(this);
+    }
     startRun();
     postTurn();
     QCoreApplication::exec();
@@ -41,6 +45,26 @@ bool Monkey::event(QEvent* event)
     }
     turn();
     return true;
+}
+
+bool Monkey::eventFilter(QObject* receiver, QEvent* event)
+{
+    return (event->type() == QEvent::UpdateRequest && !paints()) || QObject::eventFilter(receiver, event);
+}
+
+bool Monkey::paints() const
+{
+    return m_outcome.events % m_options.paintEvery == 0;
+}
+
+// What was held back has left the windows waiting for the request that they have made.
+void Monkey::paintWindows()
+{
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+        if (window->isVisible()) {
+            QCoreApplication::postEvent(window, new QEvent(QEvent::UpdateRequest));
+        }
+    }
 }
 
 void Monkey::postTurn()
@@ -117,6 +141,9 @@ void Monkey::deliver()
     const Input input = m_inputs.front();
     m_inputs.pop_front();
     ++m_outcome.events;
+    if (m_options.paintEvery > 1 && paints()) {
+        paintWindows();
+    }
     const QString line = described(input);
     for (const QChar character : line) {
         m_outcome.digest = (m_outcome.digest ^ character.unicode()) * 1099511628211U;

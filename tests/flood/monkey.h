@@ -22,6 +22,7 @@ struct FloodOptions
 {
     std::uint64_t seed = 1;
     std::int64_t events = 10000;
+    int paintEvery = 1;   ///< the windows are painted at each so-manieth event: most of a flood's time goes there
     QString gameFiles;    ///< the staged ScenarioEditor folder, which is copied
     QString damagedFiles; ///< a folder of files that the load box offers beside the saved ones
 };
@@ -53,6 +54,7 @@ public:
 
 protected:
     bool event(QEvent* event) override;
+    bool eventFilter(QObject* receiver, QEvent* event) override;
 
 private:
     void fillGameFolder();
@@ -68,6 +70,8 @@ private:
     void chooseInputs();
     void walkOut();
     void deliver();
+    bool paints() const;
+    void paintWindows();
     void log(const QString& line);
     void fail(const QString& fault);
     void finish();

@@ -61,6 +61,9 @@ Arguments argumentsOf(const QStringList& words)
             arguments.flood.seed = value.toULongLong(&arguments.valid);
         } else if (words[i] == QStringLiteral("--events")) {
             arguments.flood.events = value.toLongLong(&arguments.valid);
+        } else if (words[i] == QStringLiteral("--paint-every")) {
+            arguments.flood.paintEvery = value.toInt(&arguments.valid);
+            arguments.valid = arguments.valid && arguments.flood.paintEvery > 0;
         } else {
             arguments.valid = words[i] == QStringLiteral("--from-log") && readLog(value, arguments.flood);
         }
@@ -118,7 +121,7 @@ int main(int argc, char** argv)
     torvane::prepareApplication();
     const Arguments arguments = argumentsOf(QCoreApplication::arguments());
     if (!arguments.valid) {
-        std::fprintf(stderr, "usage: monkey [--seed n] [--events n] [--from-log file]\n");
+        std::fprintf(stderr, "usage: monkey [--seed n] [--events n] [--paint-every n] [--from-log file]\n");
         return 2;
     }
     stopClock();
