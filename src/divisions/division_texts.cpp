@@ -7,6 +7,8 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr Bilingual saveTip{"Writes the division and its ships", "Schreibt den Verband und seine Schiffe"};
+constexpr Bilingual cancelTip{"Closes the window without writing the division",
+                              "Schließt das Fenster, ohne den Verband zu schreiben"};
 constexpr Bilingual slower{"1 knot less; below 1 comes the limit of ships and sea",
                            "1 Knoten weniger; unter 1 folgt die Grenze nach Schiffen und See"};
 constexpr Bilingual faster{"1 knot more; above the limit of ships and sea comes 1",
@@ -40,7 +42,12 @@ constexpr std::array<CaptionRow, 20> divisionCaptions{{
     {"lblPosition"_L1, {"Last position:", "Letzte Position:"}},
 }};
 
-constexpr std::array<CaptionRow, 19> divisionTips{{
+constexpr std::array<CaptionRow, 22> divisionTips{{
+    {"CmdAdd"_L1,
+     {"Opens the list of ships, from which the division is put together",
+      "Öffnet die Schiffsliste, aus der der Verband zusammengestellt wird"}},
+    {"CmdCancel"_L1, cancelTip},
+    {"CmdEditCancel"_L1, cancelTip},
     {"cmdDivDataChng"_L1,
      {"Opens heading, formation, spacing and speed for changes",
       "Gibt Kurs, Formation, Abstand und Geschwindigkeit zum Ändern frei"}},

@@ -10,7 +10,7 @@ namespace torvane {
 /// buttons have no German caption. Kept.
 extern const std::array<CaptionRow, 20> divisionCaptions;
 /// What a control's tool tip says of range, unit and use.
-extern const std::array<CaptionRow, 19> divisionTips;
+extern const std::array<CaptionRow, 22> divisionTips;
 
 /// Texts of the division dialog's messages, and of what it says of its state.
 enum class DivisionText {

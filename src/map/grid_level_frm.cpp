@@ -11,6 +11,8 @@ namespace {
 
 constexpr Bilingual title{"Grid Size", "Rastergröße"};
 constexpr Bilingual request{"Select a size for the grid.", "Rastergröße wählen"};
+constexpr Bilingual optionTip{"Draws the grid so and closes the window",
+                              "Zeichnet das Raster so und schließt das Fenster"};
 constexpr Bilingual small{"Small", "Klein"};
 constexpr Bilingual medium{"Medium", "Mittel"};
 constexpr Bilingual large{"Large", "Groß"};
@@ -36,6 +38,7 @@ void GridLevelFrm::applyCaptions(Language language)
     m_ui->optLevel2->setText(medium.in(language));
     m_ui->optLevel1->setText(large.in(language));
     m_ui->optOff->setText(off.in(language));
+    describeOptions(optionTip.in(language));
 }
 
 std::int16_t GridLevelFrm::gridIndex() const

@@ -30,6 +30,13 @@ void LevelFrm::useOptions()
     }
 }
 
+void LevelFrm::describeOptions(const QString& description)
+{
+    for (OptionButton* option : m_options) {
+        option->setAccessibleDescription(description);
+    }
+}
+
 QString LevelFrm::optionOn() const
 {
     const auto found = std::ranges::find_if(m_options, &OptionButton::isChecked);

@@ -24,6 +24,8 @@ protected:
 
     /// Takes the options that the window has by now. One of them is on: the default.
     void useOptions();
+    /// Gives each option what assistive tools say of it.
+    void describeOptions(const QString& description);
     /// The design name of the option that is on.
     QString optionOn() const;
     /// Shows the dialog over the main window, which takes no input meanwhile, with an option turned on. An

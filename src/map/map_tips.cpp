@@ -38,4 +38,33 @@ constexpr std::array<CaptionRow, 3> mapNames{{
     {"VScroll1"_L1, {"Map up or down", "Karte nach oben oder unten"}},
 }};
 
+constexpr std::array<CaptionRow, 10> mapDescriptions{{
+    {"Picture_Main"_L1,
+     {"The sea with the ships of both forces; divisions, target and line are placed on it by a click or by "
+      "Ctrl with the arrows and Space",
+      "Die See mit den Schiffen beider Streitkräfte; Verbände, Ziel und Linie setzt ein Klick darauf oder "
+      "Strg mit den Pfeilen und die Leertaste"}},
+    {"cmdGridLevel"_L1, {"Sets the size of the map's grid", "Stellt die Größe des Rasters ein"}},
+    {"cmdZoomLevel"_L1, {"Sets how much sea the map shows", "Stellt ein, wie viel See die Karte zeigt"}},
+    {"cmdNameTog"_L1,
+     {"Labels ships by type and name, by name, by type or not at all",
+      "Beschriftet Schiffe mit Typ und Namen, nur Namen, nur Typ oder gar nicht"}},
+    {"cmdMapScale"_L1,
+     {"Shows or hides the scale of the grid", "Zeigt oder verbirgt den Maßstab des Rasters"}},
+    {"cmdVisibCircles"_L1,
+     {"Shows or hides how far each ship can be seen",
+      "Zeigt oder verbirgt, wie weit man jedes Schiff sieht"}},
+    {"cmdGunCircles"_L1,
+     {"Shows or hides how far each ship's main guns reach",
+      "Zeigt oder verbirgt, wie weit die Hauptgeschütze jedes Schiffes reichen"}},
+    {"cmdRadarCircles"_L1,
+     {"Shows or hides how far each ship's radar reaches",
+      "Zeigt oder verbirgt, wie weit das Radar jedes Schiffes reicht"}},
+    {"cmdMeasureTool"_L1,
+     {"Takes up or puts away the line that measures a distance",
+      "Nimmt die Linie, die eine Entfernung misst, oder legt sie weg"}},
+    {"Image1"_L1,
+     {"Brings the map back to where it began", "Bringt die Karte dorthin zurück, wo sie begann"}},
+}};
+
 } // namespace torvane

@@ -10,6 +10,9 @@ namespace torvane {
 namespace {
 
 constexpr Bilingual title = inBoth("Zoom");
+constexpr Bilingual optionTip{
+    "Shows the map at this level and closes the window; a higher level shows more sea",
+    "Zeigt die Karte in dieser Ebene und schließt das Fenster; eine höhere zeigt mehr See"};
 constexpr Bilingual request{"Please select a zoom level.", "Bitte wählen Sie eine Zoom-Ebene."};
 
 } // namespace
@@ -32,6 +35,7 @@ void ZoomLevelFrm::applyCaptions(Language language)
         findChild<OptionButton*>(QLatin1StringView(level.option))
             ->setText(Bilingual{level.english, level.german}.in(language));
     }
+    describeOptions(optionTip.in(language));
 }
 
 std::int16_t ZoomLevelFrm::zoomIndex() const

@@ -6,6 +6,10 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+constexpr Bilingual cancelTip{"Closes the window; what was changed in it is not stored",
+                              "Schließt das Fenster; was darin geändert wurde, wird nicht gesichert"};
+constexpr Bilingual objectiveTip{"What the mission asks of the force",
+                                 "Was der Einsatz von der Streitkraft verlangt"};
 constexpr Bilingual headingTip{
     "The course on which the force leaves the battle: 0 to 360 degrees, 0 is north",
     "Der Kurs, auf dem sich die Streitkraft löst: 0 bis 360 Grad, 0 ist Norden"};
@@ -27,7 +31,12 @@ constexpr Bilingual minutesTip{"1 minute on; the keys + and - step either way",
 
 } // namespace
 
-constexpr std::array<CaptionRow, 24> overviewTips{{
+constexpr std::array<CaptionRow, 28> overviewTips{{
+    {"cmdOK"_L1,
+     {"Stores the overview and closes the window", "Sichert den Überblick und schließt das Fenster"}},
+    {"CmdCancel"_L1, cancelTip},
+    {"RTxtBBlueBrief"_L1, objectiveTip},
+    {"RTxtBRedBrief"_L1, objectiveTip},
     {"TxtTitle"_L1,
      {"At most 30 characters; the scenario is saved under this name",
       "Höchstens 30 Zeichen; unter diesem Namen wird das Szenario gesichert"}},
@@ -61,7 +70,10 @@ constexpr std::array<CaptionRow, 24> overviewTips{{
     {"lblMovie"_L1, {"The film shown before the battle", "Der Film vor der Schlacht"}},
 }};
 
-constexpr std::array<CaptionRow, 26> environmentTips{{
+constexpr std::array<CaptionRow, 28> environmentTips{{
+    {"cmdOK"_L1,
+     {"Stores the environment and closes the window", "Sichert die Umgebung und schließt das Fenster"}},
+    {"CmdCancel"_L1, cancelTip},
     {"cmdHours"_L1, hoursTip},
     {"cmdMinutes"_L1, minutesTip},
     {"cmdSunriseHour"_L1, hoursTip},

@@ -31,14 +31,23 @@ void applyControlNames(QWidget& window, std::span<const CaptionRow> names, Langu
     }
 }
 
+void applyControlDescriptions(QWidget& window, std::span<const CaptionRow> descriptions, Language language)
+{
+    for (const CaptionRow& row : descriptions) {
+        if (auto* control = window.findChild<QWidget*>(row.control)) {
+            control->setAccessibleDescription(row.caption.in(language));
+        }
+    }
+}
+
 void applyControlTips(QWidget& window, std::span<const CaptionRow> tips, Language language)
 {
     for (const CaptionRow& row : tips) {
         if (auto* control = window.findChild<QWidget*>(row.control)) {
             control->setToolTip(row.caption.in(language));
-            control->setAccessibleDescription(row.caption.in(language));
         }
     }
+    applyControlDescriptions(window, tips, language);
 }
 
 } // namespace torvane

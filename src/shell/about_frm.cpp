@@ -43,6 +43,7 @@ void AboutFrm::onLoad()
 void AboutFrm::applyCaptions(Language language)
 {
     setWindowTitle(mainText(MainText::AboutTitle, language));
+    m_ui->cmdOK->setAccessibleDescription(mainText(MainText::CloseWindow, language));
     m_lines = aboutLines(language, QLocale::system().toString(versionDate(), QLocale::ShortFormat));
 }
 

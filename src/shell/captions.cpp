@@ -2,7 +2,7 @@
 
 namespace torvane {
 
-constexpr std::array<TextRow<MainText>, 20> mainTexts{{
+constexpr std::array<TextRow<MainText>, 21> mainTexts{{
     {MainText::Title, {"Torvane - Scenario Editor", "Torvane - Szenario-Editor"}},
     {MainText::RulerCaption, {"Distance A to B", "Abstand A nach B"}},
     {MainText::Division, {"Division", "Verband"}},
@@ -21,6 +21,7 @@ constexpr std::array<TextRow<MainText>, 20> mainTexts{{
     {MainText::Saving, {"Saving File...  Please Wait.", "Datei wird gesichert..."}},
     {MainText::SplashTitle, {"SCENARIO EDITOR", "Szenario-Editor"}},
     {MainText::AboutTitle, {"About", "Über"}},
+    {MainText::CloseWindow, {"Closes the window", "Schließt das Fenster"}},
     {MainText::RuntimeErrorTitle, {"Torvane - Scenario Editor", "Torvane - Szenario-Editor"}},
     {MainText::FolderInUse,
      {"The scenario editor is already running in this folder:\n\n%1\n\nClose it there before you start it "

@@ -26,6 +26,7 @@ enum class MainText {
     Saving,
     SplashTitle,
     AboutTitle,
+    CloseWindow, ///< what assistive tools say of a button that does only that
     // Boxes of the platform
     RuntimeErrorTitle,
     FolderInUse,
@@ -34,7 +35,7 @@ enum class MainText {
 };
 
 /// One row a text, in the order of `MainText`.
-extern const std::array<TextRow<MainText>, 20> mainTexts;
+extern const std::array<TextRow<MainText>, 21> mainTexts;
 
 QString mainText(MainText text, Language language);
 

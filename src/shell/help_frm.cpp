@@ -38,11 +38,8 @@ HelpFrm::HelpFrm(Language language)
     applyControlTips(*this, helpTips, language);
     m_ui->split->setSizes({contentsWidth, guideWidth});
     m_ui->split->setStretchFactor(1, 1);
-    m_ui->treContents->setAccessibleName(m_ui->treContents->toolTip());
-    m_ui->txtGuide->setAccessibleName(m_ui->txtGuide->toolTip());
-    // Over the text they would only be in the way.
-    m_ui->treContents->setToolTip(QString());
-    m_ui->txtGuide->setToolTip(QString());
+    applyControlNames(*this, helpNames, language);
+    applyControlDescriptions(*this, helpDescriptions, language);
     // Room for what it may say, so that nothing moves when it says it.
     m_ui->lblFound->setMinimumWidth(
         m_ui->lblFound->fontMetrics().horizontalAdvance(helpText(HelpText::NotFound, language)));

@@ -16,7 +16,7 @@ constexpr std::array<CaptionRow, 7> helpCaptions{{
     {"cmdFindNext"_L1, {"&Next", "&Nächstes"}},
 }};
 
-constexpr std::array<CaptionRow, 8> helpTips{{
+constexpr std::array<CaptionRow, 6> helpTips{{
     {"cmdBack"_L1,
      {"To what you read before (Alt+Left)", "Zu dem, was Sie vorher gelesen haben (Alt+Links)"}},
     {"cmdForward"_L1, {"Forward again (Alt+Right)", "Wieder vor (Alt+Rechts)"}},
@@ -26,8 +26,19 @@ constexpr std::array<CaptionRow, 8> helpTips{{
       "Ein Wort, das in allen Kapiteln gesucht wird (Strg+F)"}},
     {"cmdFindPrevious"_L1, {"The previous place (Shift+F3)", "Die vorige Fundstelle (Umschalt+F3)"}},
     {"cmdFindNext"_L1, {"The next place (Enter or F3)", "Die nächste Fundstelle (Eingabetaste oder F3)"}},
-    {"treContents"_L1, {"The chapters and their sections", "Die Kapitel und ihre Abschnitte"}},
-    {"txtGuide"_L1, {"The chapter", "Das Kapitel"}},
+}};
+
+constexpr std::array<CaptionRow, 2> helpNames{{
+    {"treContents"_L1, {"Contents", "Inhalt"}},
+    {"txtGuide"_L1, {"Chapter", "Kapitel"}},
+}};
+
+// As tool tips over the text they would only be in the way.
+constexpr std::array<CaptionRow, 2> helpDescriptions{{
+    {"treContents"_L1,
+     {"The chapters and their sections; a click or Enter opens one",
+      "Die Kapitel und ihre Abschnitte; ein Klick oder die Eingabetaste öffnet sie"}},
+    {"txtGuide"_L1, {"The chapter that is open", "Das aufgeschlagene Kapitel"}},
 }};
 
 constexpr std::array<TextRow<HelpText>, 6> helpTexts{{

@@ -10,7 +10,10 @@ namespace torvane {
 /// Captions of the help window; the window's own name stands for its title bar.
 extern const std::array<CaptionRow, 7> helpCaptions;
 /// Tool tips of its controls, which tell the keys too.
-extern const std::array<CaptionRow, 8> helpTips;
+extern const std::array<CaptionRow, 6> helpTips;
+/// What assistive tools call the contents and the guide, and what they say of them.
+extern const std::array<CaptionRow, 2> helpNames;
+extern const std::array<CaptionRow, 2> helpDescriptions;
 
 /// What the help says in boxes and beside the search.
 enum class HelpText {

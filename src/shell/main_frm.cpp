@@ -183,6 +183,7 @@ void MainFrm::applyCaptions(Language language)
     m_surface->tools().setCaptions(language);
     applyControlTips(*m_surface, mapTips, language);
     applyControlNames(*m_surface, mapNames, language);
+    applyControlDescriptions(*m_surface, mapDescriptions, language);
 }
 
 // The German menus are long: the bar's text gives way until they stand in the window's width, and what is

@@ -66,17 +66,42 @@ struct ListRow
     const char* captionLabel;
     Bilingual caption;
     const char* list;
+    Bilingual tip;
     QStringView key;
     std::span<const ListWord> words;
 };
 inline constexpr std::array<ListRow, 4> crewLists{{
-    {"Label65", {"Crew Quality", "Besatzungsqualität"}, "CmbCrewQ", u"CREWQUALITY", crewQualityWords},
-    {"Label66", {"Crew Fatigue", "Erschöpfung"}, "CmbCrewFati", u"CREWFATIGUE", crewFatigueWords},
-    {"Label38", {"Night Training", "Nachtgefecht"}, "CmbNightTrain", u"NIGHTTRAINING", nightTrainingWords},
-    {"Label67", {"Radar Quality", "Radarqualität"}, "Combo1", u"RADARTYPE", radarQualityWords},
+    {"Label65",
+     {"Crew Quality", "Besatzungsqualität"},
+     "CmbCrewQ",
+     {"How well the crew is trained", "Wie gut die Besatzung ausgebildet ist"},
+     u"CREWQUALITY",
+     crewQualityWords},
+    {"Label66",
+     {"Crew Fatigue", "Erschöpfung"},
+     "CmbCrewFati",
+     {"How rested the crew is", "Wie ausgeruht die Besatzung ist"},
+     u"CREWFATIGUE",
+     crewFatigueWords},
+    {"Label38",
+     {"Night Training", "Nachtgefecht"},
+     "CmbNightTrain",
+     {"How well the crew fights at night", "Wie gut die Besatzung bei Nacht kämpft"},
+     u"NIGHTTRAINING",
+     nightTrainingWords},
+    {"Label67",
+     {"Radar Quality", "Radarqualität"},
+     "Combo1",
+     {"How good the ship's radar is", "Wie gut das Radar des Schiffes ist"},
+     u"RADARTYPE",
+     radarQualityWords},
 }};
-inline constexpr ListRow rudderList{
-    "Label70", {"Maneuver Dir", "Manöverrichtung"}, "cmbManeuver", u"MANUEVERSYSTEMDIRECTION", rudderWords};
+inline constexpr ListRow rudderList{"Label70",
+                                    {"Maneuver Dir", "Manöverrichtung"},
+                                    "cmbManeuver",
+                                    {"The position of the rudder", "Die Lage des Ruders"},
+                                    u"MANUEVERSYSTEMDIRECTION",
+                                    rudderWords};
 
 /// The entries of a list, in order.
 QStringList entriesOf(const ListRow& list, Language language);

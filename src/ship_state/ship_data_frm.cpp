@@ -147,6 +147,8 @@ void ShipDataFrm::applyCaptions(Language language)
     }
     m_ui->TabStrip1->setToolTip(shipDataText(ShipDataText::PageTip, language));
     m_ui->TabStrip1->setAccessibleDescription(m_ui->TabStrip1->toolTip());
+    m_ui->cmdSave->setToolTip(shipDataText(ShipDataText::SaveTip, language));
+    m_ui->CmdCancel->setToolTip(shipDataText(ShipDataText::CancelTip, language));
 }
 
 void ShipDataFrm::showCondition()

@@ -139,6 +139,8 @@ void ShipDataPage::applyCaptions(Language language, QString taken)
         const QString caption = list.row->caption.in(language);
         list.label->setText(withMnemonic(caption, taken));
         list.list->setAccessibleName(caption);
+        list.list->setToolTip(list.row->tip.in(language));
+        list.list->setAccessibleDescription(list.list->toolTip());
         const QStringList entries = entriesOf(*list.row, language);
         list.list->addItems(entries);
         // A word from the record that is no entry doesn't make the list wider than its entries do.

@@ -34,7 +34,7 @@ constexpr std::array<ShipDataTab, 5> shipDataTabs{{
 
 namespace {
 
-constexpr std::array<TextRow<ShipDataText>, 17> texts{{
+constexpr std::array<TextRow<ShipDataText>, 19> texts{{
     {ShipDataText::More, {"%1: more", "%1: mehr"}},
     {ShipDataText::Less, {"%1: less", "%1: weniger"}},
     {ShipDataText::PercentMore,
@@ -68,6 +68,9 @@ constexpr std::array<TextRow<ShipDataText>, 17> texts{{
     {ShipDataText::PageTip,
      {"The pages; Ctrl+Page Up and Ctrl+Page Down turn them",
       "Die Seiten; Strg+Bild auf und Strg+Bild ab blättern"}},
+    {ShipDataText::SaveTip, {"Stores the condition of the ship", "Sichert den Zustand des Schiffes"}},
+    {ShipDataText::CancelTip,
+     {"Closes the window; the ship stays as it was", "Schließt das Fenster; das Schiff bleibt, wie es war"}},
 }};
 
 } // namespace

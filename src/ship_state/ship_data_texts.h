@@ -43,6 +43,8 @@ enum class ShipDataText {
     ChooseSystem,
     DestroyedTip,
     PageTip,
+    SaveTip,
+    CancelTip,
 };
 QString shipDataText(ShipDataText text, Language language);
 

@@ -19,6 +19,7 @@
 #include <QMenuBar>
 #include <QRegularExpression>
 #include <QScrollBar>
+#include <QTabBar>
 
 namespace torvane::testing {
 namespace {
@@ -240,18 +241,27 @@ bool isWorked(const QWidget* widget)
            (widget->focusPolicy() != Qt::NoFocus || qobject_cast<const QAbstractButton*>(widget));
 }
 
-QString spokenName(QWidget* widget)
+// The toolkit's face of a row of tabs says which tab is open and nothing else.
+QString spoken(QWidget* widget, QAccessible::Text what)
 {
+    if (what == QAccessible::Description && qobject_cast<const QTabBar*>(widget)) {
+        return widget->accessibleDescription();
+    }
     const QAccessibleInterface* const face = QAccessible::queryAccessibleInterface(widget);
-    return face ? face->text(QAccessible::Name).trimmed() : QString();
+    return face ? face->text(what).trimmed() : QString();
 }
 
-TEST_P(AllWindows, TellAssistiveTechnologyWhatEveryControlIs)
+TEST_P(AllWindows, TellAssistiveTechnologyWhatEveryControlIsAndDoes)
 {
     int told = 0;
     for (QWidget* widget : controls()) {
         if (isWorked(widget)) {
-            EXPECT_FALSE(spokenName(widget).isEmpty()) << widget->objectName().toStdString();
+            const QString name = spoken(widget, QAccessible::Name);
+            EXPECT_FALSE(name.isEmpty()) << widget->objectName().toStdString();
+            const QString description = spoken(widget, QAccessible::Description);
+            EXPECT_FALSE(description.isEmpty() || description == name)
+                << widget->objectName().toStdString() << " (" << name.toStdString()
+                << "): " << description.toStdString();
             ++told;
         }
     }
