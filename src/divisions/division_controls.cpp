@@ -7,12 +7,12 @@
 #include "platform/number_text.h"
 #include "platform/picture_box.h"
 #include "platform/step_button.h"
+#include "platform/svg_picture.h"
 #include "shell/editor.h"
 #include "ship_selection/ship_dbase_frm.h"
 #include "ui_create_division_frm.h"
 
 #include <QHeaderView>
-#include <QIcon>
 #include <QKeyEvent>
 #include <QScopeGuard>
 
@@ -125,7 +125,7 @@ void CreateDivisionFrm::showLock(bool open)
         line->setPalette(colors);
     }
     const QString icon = open ? QStringLiteral(":/icons/open.svg") : QStringLiteral(":/icons/locked.svg");
-    m_ui->imgLock->setPixmap(QIcon(icon).pixmap(lockSize, devicePixelRatioF()));
+    m_ui->imgLock->setPixmap(svgPicture(icon, lockSize, devicePixelRatioF()));
     m_ui->lblLock->setText(
         divisionText(open ? DivisionText::SettingsOpen : DivisionText::SettingsLocked, m_editor.language()));
     QPalette ink = m_ui->fraSettings->palette();

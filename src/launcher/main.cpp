@@ -5,6 +5,7 @@
 #include "platform/bilingual.h"
 #include "platform/folder_lock.h"
 #include "platform/runtime_error.h"
+#include "shell/run_editor.h"
 
 #include <QApplication>
 #include <QDir>
@@ -57,6 +58,7 @@ bool isInUse(const QString& folder)
 int main(int argc, char** argv)
 {
     const QApplication application(argc, argv);
+    prepareApplication();
     const Language language = chosenLanguage(QApplication::arguments());
     const QString package =
         QDir(QApplication::applicationDirPath()).filePath(QStringLiteral("../lib/torvane-scenario-editor"));

@@ -2,7 +2,6 @@
 
 #include "platform/picture_button.h"
 
-#include <QIcon>
 #include <QLabel>
 #include <QMouseEvent>
 
@@ -28,6 +27,9 @@ QFont tagFont(QFont font)
 
 ToolRow::ToolRow(QWidget* surface) : QObject(surface)
 {
+    for (std::size_t mode = 0; mode < m_nameIcons.size(); ++mode) {
+        m_nameIcons.at(mode) = QIcon(toolPicture(Tool::Names, static_cast<int>(mode)));
+    }
     for (std::size_t index = 0; index < count; ++index) {
         makeTool(index, surface);
     }
@@ -137,7 +139,7 @@ void ToolRow::showState(const MapToggles& toggles, bool measureOn)
         m_tools.at(index)->setChecked(tool == Tool::Measure ? measureOn : isOn(toggles, tool));
     }
     constexpr auto names = static_cast<std::size_t>(Tool::Names);
-    m_tools.at(names)->setIcon(QIcon(toolPicture(Tool::Names, toggles.namesMode)));
+    m_tools.at(names)->setIcon(m_nameIcons.at(static_cast<std::size_t>(toggles.namesMode)));
 }
 
 void ToolRow::hideTags()

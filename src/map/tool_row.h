@@ -2,6 +2,7 @@
 
 #include "map/view_tools.h"
 
+#include <QIcon>
 #include <QObject>
 #include <QPoint>
 
@@ -68,6 +69,7 @@ private:
 
     std::array<PictureButton*, count> m_tools{};
     std::array<QLabel*, count> m_tags{};
+    std::array<QIcon, 4> m_nameIcons; ///< of the modes of names
     std::map<const QObject*, Place> m_places;
     QPoint m_cornerTag;
     bool m_tagsOn = true;

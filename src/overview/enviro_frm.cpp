@@ -8,11 +8,11 @@
 #include "platform/list_combo.h"
 #include "platform/mnemonics.h"
 #include "platform/step_button.h"
+#include "platform/svg_picture.h"
 #include "shell/editor.h"
 #include "shell/main_frm.h"
 #include "ui_enviro_frm.h"
 
-#include <QIcon>
 #include <QValidator>
 
 #include <array>
@@ -107,10 +107,9 @@ void EnviroFrm::applyMnemonics()
 
 void EnviroFrm::drawPictures()
 {
-    m_ui->imgDay->setPixmap(
-        QIcon(QStringLiteral(":/icons/day.svg")).pixmap(pictureSize, devicePixelRatioF()));
+    m_ui->imgDay->setPixmap(svgPicture(QStringLiteral(":/icons/day.svg"), pictureSize, devicePixelRatioF()));
     m_ui->imgNight->setPixmap(
-        QIcon(QStringLiteral(":/icons/night.svg")).pixmap(pictureSize, devicePixelRatioF()));
+        svgPicture(QStringLiteral(":/icons/night.svg"), pictureSize, devicePixelRatioF()));
 }
 
 void EnviroFrm::connectClocks()

@@ -8,16 +8,11 @@
 #include "platform/error_names.h"
 #include "shell/about_frm.h"
 #include "shell/captions.h"
+#include "shell/icons.h"
 #include "shell/main_frm.h"
 #include "shell/splash_frm.h"
 #include "ship_selection/ship_dbase_frm.h"
 #include "ship_state/ship_data_frm.h"
-
-// Resources of a static library are taken into the program by this call; it stands outside every namespace.
-static void registerIcons()
-{
-    Q_INIT_RESOURCE(icons);
-}
 
 namespace torvane {
 

@@ -23,7 +23,20 @@ const QString styleText =
                    "li { margin-bottom: 3px; }"
                    "table { border-collapse: collapse; margin-top: 4px; margin-bottom: 10px; }"
                    "th, td { border-style: solid; border-width: 1px; border-color: %1; }"
-                   "th { background-color: %2; text-align: left; }");
+                   "th { background-color: %2; text-align: left; }"
+                   "a { color: %3; }");
+
+// A desktop that is dark may still have the blue for links that is meant for white paper.
+constexpr int darkGround = 128;
+constexpr int faintInk = 100;
+const QColor linkOnDark(110, 180, 255);
+
+QColor linkInk(const QPalette& palette)
+{
+    const QColor ink = palette.color(QPalette::Link);
+    const bool onDark = palette.color(QPalette::Base).lightness() < darkGround;
+    return onDark && qGray(ink.rgb()) < faintInk ? linkOnDark : ink;
+}
 
 } // namespace
 
@@ -36,7 +49,8 @@ HelpBrowser::HelpBrowser(QWidget* parent) : QTextBrowser(parent)
 void HelpBrowser::applyStyle()
 {
     document()->setDefaultStyleSheet(styleText.arg(palette().color(QPalette::Mid).name(),
-                                                   palette().color(QPalette::AlternateBase).name()));
+                                                   palette().color(QPalette::AlternateBase).name(),
+                                                   linkInk(palette()).name()));
 }
 
 void HelpBrowser::changeEvent(QEvent* event)
@@ -44,6 +58,7 @@ void HelpBrowser::changeEvent(QEvent* event)
     QTextBrowser::changeEvent(event);
     if (event->type() == QEvent::PaletteChange) {
         applyStyle();
+        reload();
     }
 }
 

@@ -1,11 +1,13 @@
 #include "shell/run_editor.h"
 
+#include "platform/contrast_style.h"
 #include "platform/system_services.h"
 #include "platform/toolkit_texts.h"
 #include "platform/window_services.h"
 #include "shell/captions.h"
 #include "shell/editor.h"
 #include "shell/help_viewer.h"
+#include "shell/icons.h"
 
 #include <QApplication>
 #include <QIcon>
@@ -14,8 +16,10 @@ namespace torvane {
 
 void prepareApplication()
 {
-    QApplication::setStyle(QStringLiteral("fusion"));
+    registerIcons();
+    QApplication::setStyle(new ContrastStyle);
     QApplication::setQuitOnLastWindowClosed(false);
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/editor.svg")));
 }
 
 int runEditor(int& argc, char** argv, Language language)
@@ -43,7 +47,6 @@ int runEditor(int& argc, char** argv, Language language)
     }
     Editor editor(programDir, {.language = language},
                   {messageBoxes, inputBoxes, fileBoxes, helpViewer, launcher, clock, random});
-    QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/editor.svg")));
     editor.onEnd([] { QCoreApplication::exit(0); });
     editor.start();
     return QApplication::exec();

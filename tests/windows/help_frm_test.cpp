@@ -221,6 +221,28 @@ TEST_P(Help, EveryLinkLeadsToItsPlace)
     }
 }
 
+TEST_P(Help, LinksCanBeReadOnDarkAndLightDesktops)
+{
+    const QPalette before = QApplication::palette();
+    for (const QColor& ground : {QColor(40, 42, 50), QColor(240, 240, 240)}) {
+        QApplication::setPalette(QPalette(ground));
+        open();
+        const int paper = qGray(guide().palette().color(QPalette::Base).rgb());
+        int links = 0;
+        for (QTextBlock block = guide().document()->begin(); block.isValid(); block = block.next()) {
+            for (auto piece = block.begin(); !piece.atEnd(); ++piece) {
+                const QTextCharFormat format = piece.fragment().charFormat();
+                if (format.isAnchor() && !format.anchorHref().isEmpty()) {
+                    EXPECT_GT(std::abs(qGray(format.foreground().color().rgb()) - paper), 100);
+                    ++links;
+                }
+            }
+        }
+        EXPECT_GT(links, 5);
+    }
+    QApplication::setPalette(before);
+}
+
 TEST_P(Help, EveryPictureIsShown)
 {
     open();
