@@ -42,9 +42,31 @@ function(torvane_add_tests name)
     if(NOT arg_TIMEOUT)
         set(arg_TIMEOUT 120)
     endif()
-    gtest_discover_tests(${name}
-        TEST_PREFIX "${prefix}"
-        DISCOVERY_MODE PRE_TEST
-        DISCOVERY_TIMEOUT 60
+    torvane_register_tests(${name} "${prefix}" "*"
         PROPERTIES TIMEOUT ${arg_TIMEOUT} ENVIRONMENT QT_QPA_PLATFORM=offscreen ${scale} ${labels})
+endfunction()
+
+# Makes the tests of a program that a filter takes known to CTest: each by its name, or with TORVANE_TESTS_WHOLE the whole
+# program in a few shares that can run beside each other, which saves thousands of starts.
+function(torvane_register_tests name prefix filter)
+    cmake_parse_arguments(arg "" "" "PROPERTIES" ${ARGN})
+    if(NOT TORVANE_TESTS_WHOLE)
+        gtest_discover_tests(${name}
+            TEST_PREFIX "${prefix}"
+            TEST_FILTER "${filter}"
+            TEST_LIST "${prefix}${name}"
+            DISCOVERY_MODE PRE_TEST
+            DISCOVERY_TIMEOUT 60
+            PROPERTIES ${arg_PROPERTIES})
+        return()
+    endif()
+    set(shares 4)
+    foreach(share RANGE 1 ${shares})
+        math(EXPR index "${share} - 1")
+        set(test "${prefix}${name}.${share}")
+        add_test(NAME ${test} COMMAND ${CMAKE_COMMAND} -E env
+            GTEST_TOTAL_SHARDS=${shares} GTEST_SHARD_INDEX=${index}
+            $<TARGET_FILE:${name}> --gtest_brief=1 "--gtest_filter=${filter}")
+        set_tests_properties(${test} PROPERTIES ${arg_PROPERTIES} TIMEOUT 1200)
+    endforeach()
 endfunction()
