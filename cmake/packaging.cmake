@@ -12,15 +12,27 @@ function(torvane_install_game_tree destination component)
                   "${TORVANE_GAME_DIR}/ScenarioEditor/ShipDatabase.mdb"
                   "${TORVANE_GAME_DIR}/ScenarioEditor/SE_README.HLP"
         DESTINATION ${destination}/ScenarioEditor COMPONENT ${component} ${ARGN})
-    file(GLOB scenarios CONFIGURE_DEPENDS "${CMAKE_SOURCE_DIR}/data/scenarios/*/*.scn")
-    install(FILES ${scenarios} DESTINATION ${destination}/Scenarios COMPONENT ${component} ${ARGN})
 endfunction()
 
+file(GLOB delivered_scenarios CONFIGURE_DEPENDS "${CMAKE_SOURCE_DIR}/data/scenarios/*/*.scn")
+
 torvane_install_game_tree(. game)
+# A game folder is its author's: a scenario of that name that is there already may be his, and stays as it is.
+install(CODE "
+    set(scenarios [[${delivered_scenarios}]])
+    set(folder \"\${CMAKE_INSTALL_PREFIX}/Scenarios\")
+    foreach(scenario IN LISTS scenarios)
+        get_filename_component(name \"\${scenario}\" NAME)
+        if(NOT EXISTS \"\$ENV{DESTDIR}\${folder}/\${name}\")
+            file(INSTALL DESTINATION \"\${folder}\" TYPE FILE FILES \"\${scenario}\")
+        endif()
+    endforeach()" COMPONENT game)
 install(FILES packaging/README.txt DESTINATION . COMPONENT archive EXCLUDE_FROM_ALL)
 
 # What belongs to a desktop is left out of a game folder.
 torvane_install_game_tree(${TORVANE_PACKAGE_DIR} desktop EXCLUDE_FROM_ALL)
+install(FILES ${delivered_scenarios}
+    DESTINATION ${TORVANE_PACKAGE_DIR}/Scenarios COMPONENT desktop EXCLUDE_FROM_ALL)
 install(TARGETS torvane-scenario-editor RUNTIME DESTINATION bin COMPONENT desktop EXCLUDE_FROM_ALL)
 install(FILES packaging/${TORVANE_APP_ID}.desktop
     DESTINATION share/applications COMPONENT desktop EXCLUDE_FROM_ALL)
