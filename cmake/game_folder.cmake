@@ -1,7 +1,6 @@
 # The game folder that the build stages: both programs, ScenarioEditor/ with what lies there at the start,
 # and Scenarios/. The same tree is what an installation puts into a real game folder.
 set(TORVANE_GAME_DIR "${CMAKE_BINARY_DIR}/game")
-set(CMAKE_RUNTIME_OUTPUT_DIRECTORY_GAME "${TORVANE_GAME_DIR}")
 
 # The custom targets `game` (everything that the editor needs to run) and the staging of its data files.
 function(torvane_stage_game_folder)

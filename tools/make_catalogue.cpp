@@ -28,7 +28,7 @@ bool isFree(const Faults& faults)
 int run(const QString& folder, const QString& database)
 {
     Faults faults;
-    const ShipData data = parseShipData(readShipDataFiles(folder), faults);
+    const CatalogueData data = parseShipData(readShipDataFiles(folder), faults);
     checkShipData(data, faults);
     if (!isFree(faults)) {
         return EXIT_FAILURE;

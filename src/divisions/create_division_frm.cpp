@@ -12,6 +12,7 @@
 #include "shell/commands.h"
 #include "shell/editor.h"
 #include "shell/main_frm.h"
+#include "store/units.h"
 #include "ui_create_division_frm.h"
 
 #include <QScopeGuard>
@@ -83,8 +84,8 @@ void CreateDivisionFrm::onLoad()
     for (const FormationWord& word : formationWords) {
         m_ui->CmbFormation->addItem(shownFormation(QLatin1StringView(word.english), m_editor.language()));
     }
-    for (const char* spacing : formationSpacings) {
-        m_ui->CmbSpacing->addItem(QLatin1StringView(spacing));
+    for (const Spacing& spacing : spacingTable) {
+        m_ui->CmbSpacing->addItem(spacing.yards);
     }
     fixSizes();
     const PixelOffset centre =

@@ -18,16 +18,6 @@ constexpr int snapshotPlaces = 10;
 
 constexpr const char* scenarioInfo = "SCENARIOINFO ";
 
-QString divisionName(const QString& number)
-{
-    return QStringLiteral("Division ") + number;
-}
-
-QString shipPlace(const QString& divisionSection, int place)
-{
-    return divisionSection + QStringLiteral("SHIP") + QString::number(place);
-}
-
 } // namespace
 
 QString storedFormation(const QString& shown)
@@ -54,7 +44,7 @@ DivisionVars readDialogFields(const DivisionFields& fields)
 {
     const QString number = fields.divisionLabel.trimmed().right(1);
     return {.number = number,
-            .name = divisionName(number),
+            .name = storedDivisionName(number),
             .side = wordOf(sideOfLabel(fields.sideLabel)),
             .formation = storedFormation(fields.formation),
             .heading = fields.heading.trimmed(),
@@ -65,7 +55,7 @@ DivisionVars readDialogFields(const DivisionFields& fields)
 DivisionVars divisionDefaults(Language language)
 {
     return {.number = QStringLiteral("1"),
-            .name = divisionName(QStringLiteral("1")),
+            .name = storedDivisionName(QStringLiteral("1")),
             .side = blueWord,
             .formation = shownFormation(QStringLiteral("Column"), language),
             .heading = QStringLiteral("0"),
@@ -134,7 +124,7 @@ QStringList DivisionRecords::shipsBeforeEdit(const QString& section) const
 {
     QStringList names;
     for (int m = 0; m < shipSections; ++m) {
-        names.append(m_profile.GetIniKey(shipPlace(section, m), u"NAME"));
+        names.append(m_profile.GetIniKey(shipSection(section, m), u"NAME"));
     }
     QStringList lines = listBeforeEdit();
     lines.removeIf([&names](const QString& line) { return !names.contains(shipNameOf(line).trimmed()); });
@@ -317,10 +307,10 @@ DivisionShips DivisionRecords::loadDivisionShips(const QString& name, const QStr
         if (index != invalidValue) {
             const double place = numberValue(index);
             const bool inRange = place >= 0 && place <= highestShipIndex;
-            const QString ship = shipPlace(section, inRange ? toInt16(place) : 0);
+            const QString ship = shipSection(section, inRange ? toInt16(place) : 0);
             flagship = shipLine(m_profile.GetIniKey(ship, u"TYPE"), m_profile.GetIniKey(ship, u"NAME"));
         }
-        const QString first = shipPlace(section, 0);
+        const QString first = shipSection(section, 0);
         ships.xPosition = toInt32(numberValue(m_profile.GetIniKey(first, u"XPOSITION")));
         ships.zPosition = toInt32(numberValue(m_profile.GetIniKey(first, u"ZPOSITION")));
         ships.section = section;
@@ -337,7 +327,7 @@ void DivisionRecords::snapshotShipSections(const QString& section)
 {
     const ProfileStore::Batch batch(m_store);
     for (int m = 0; m < snapshotPlaces; ++m) {
-        const QString ship = shipPlace(section, m);
+        const QString ship = shipSection(section, m);
         if (m_profile.GetIniKey(ship, u"NAME") == invalidValue) {
             return;
         }
@@ -381,8 +371,8 @@ bool DivisionRecords::isEncumbered(const QString& section) const
 
 void DivisionRecords::DivMapPt(const QString& section, const QString& x, const QString& z)
 {
-    m_profile.write(shipPlace(section, 0), u"XPOSITION", x);
-    m_profile.write(shipPlace(section, 0), u"ZPOSITION", z);
+    m_profile.write(shipSection(section, 0), u"XPOSITION", x);
+    m_profile.write(shipSection(section, 0), u"ZPOSITION", z);
 }
 
 } // namespace torvane

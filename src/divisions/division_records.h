@@ -15,7 +15,7 @@ namespace torvane {
 
 class ShipRecords;
 
-/// The settings of a division as the division dialog holds them: `divisionVars` of the design. All text.
+/// The settings of a division as the division dialog holds them. All text.
 struct DivisionVars
 {
     QString number{}; ///< within its side, the last character of its name

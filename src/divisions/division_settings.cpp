@@ -4,8 +4,6 @@
 #include "platform/number_text.h"
 #include "store/working_profile.h"
 
-#include <algorithm>
-
 namespace torvane {
 
 namespace {

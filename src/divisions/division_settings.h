@@ -14,10 +14,6 @@ namespace torvane {
 
 class WorkingProfile;
 
-/// The spacings of a formation that can be chosen, in yards.
-inline constexpr std::array<const char*, 8> formationSpacings{"500", "600",  "700",  "800",
-                                                              "900", "1000", "1500", "2000"};
-
 /// Degrees that a click on a heading button turns by.
 inline constexpr int headingStep = 5;
 

@@ -10,7 +10,6 @@
 #include "store/working_profile.h"
 
 #include <array>
-#include <cmath>
 
 namespace torvane {
 
@@ -85,7 +84,7 @@ RepositionKey cutRepositionKey(QStringView repositionKey)
 {
     const double number = numberValue(repositionKey.right(1));
     return {.side = repositionKey.left(4).trimmed().toString(),
-            .divisionName = QStringLiteral("Division ") + textOf(number)};
+            .divisionName = storedDivisionName(textOf(number))};
 }
 
 /// What the placement keeps of a division's ships: of the classes only the last one's.
@@ -140,7 +139,7 @@ FormationPlacement::Ships FormationPlacement::shipsOf(const DivisionToPlace& div
         if (place > places) {
             throw noSuchPlace(place);
         }
-        const QString section = division.section + QStringLiteral("SHIP") + QString::number(place - 1);
+        const QString section = shipSection(division.section, place - 1);
         ships.shortNames.append(m_profile.GetIniKey(section, u"SHORTNAME"));
         ships.lastClass = m_profile.GetIniKey(section, u"CLASS");
         // Sizes move no ship, spacing runs from centre to centre; but the class table stands at this class

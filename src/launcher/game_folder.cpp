@@ -87,12 +87,22 @@ bool isDue(const QString& name, const std::optional<QByteArray>& present, const 
     return isProgram(name) || sumOf(*present) == delivered;
 }
 
-void deliver(const QByteArray& bytes, const QString& path, bool program)
+void deliver(const QByteArray& bytes, const QString& path)
 {
     QDir().mkpath(QFileInfo(path).path());
     writeWholeFile(path, bytes);
-    const QFile::Permissions rights = QFile::permissions(path) | QFile::ReadOwner | QFile::WriteOwner;
-    QFile::setPermissions(path, program ? rights | QFile::ExeOwner : rights);
+}
+
+/// The owner may read, write and, if it is a program, start the file. Asked at each start: the one that
+/// brought the file may have been killed before it came to that.
+void giveRights(const QString& path, bool program)
+{
+    const QFile::Permissions present = QFile::permissions(path);
+    const QFile::Permissions owner = QFile::ReadOwner | QFile::WriteOwner;
+    const QFile::Permissions wanted = present | (program ? owner | QFile::ExeOwner : owner);
+    if (wanted != present && !QFile::setPermissions(path, wanted)) {
+        throw RuntimeError(RuntimeError::PermissionDenied, path);
+    }
 }
 
 } // namespace
@@ -121,8 +131,9 @@ bool refreshGameFolder(const QString& package, const QString& folder)
             continue;
         }
         if (present != bytes) {
-            deliver(bytes, path, isProgram(name));
+            deliver(bytes, path);
         }
+        giveRights(path, isProgram(name));
         record.insert(name, sumOf(bytes));
     }
     QDir().mkpath(target.filePath(QStringLiteral("Scenarios")));

@@ -229,7 +229,7 @@ void MapPlotter::drawDivisions(bool day, const RingDrawer& rings, MapPicture& pi
             return;
         }
         for (int number = 1; number <= division->ships; ++number) {
-            const QString place = section + QStringLiteral("SHIP") + QString::number(number - 1);
+            const QString place = shipSection(section, number - 1);
             const auto key = [&](QStringView name) { return m_profile.GetIniKey(place, name); };
             PlottedShip ship{.heading = division->heading,
                              .type = key(u"TYPE"),

@@ -29,7 +29,7 @@ public:
         Surface,    ///< the main window's own: hides all tags
         Map,        ///< likewise
         Ruler,      ///< beside the row: hides the tag of the measuring tool
-        ScalePanel, ///< below the map: hides the tag of the corner's tool
+        ScalePanel, ///< above the map: hides the tag of the corner's tool
     };
 
     /// Makes tools and tags, which belong to `surface`.

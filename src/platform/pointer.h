@@ -4,7 +4,7 @@
 
 namespace torvane {
 
-/// The pointer's shape over the whole program.
+/// The pointer's shapes: the hourglass over the whole program, the others over the map.
 enum class Pointer { Default, Hourglass, Crosshair, SizeAll };
 
 /// The shape that the window system knows.

@@ -191,9 +191,10 @@ void ProfileStore::Private::look(File& file)
     }
     file.isThere = true;
     try {
+        // Before the bytes, and so is its stamp: a change in between shows the next time.
+        const bool settled = isSettled(*sight.stamp);
         file.take(readFrom(file), true);
-        // Taken before the bytes: a change in between shows the next time.
-        file.stamp = isSettled(*sight.stamp) ? sight.stamp : std::nullopt;
+        file.stamp = settled ? sight.stamp : std::nullopt;
     } catch (const std::exception&) {
         file.failToRead();
     }

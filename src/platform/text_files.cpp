@@ -297,11 +297,13 @@ void requireWritableFolder(const QString& folder)
     QByteArray name = systemPath(folder) + '/' + unfinishedName + "XXXXXX";
     Descriptor file = makeFile(name, folder);
     // Tried twice, as nobody else would take it away before the next start.
-    const bool unlinked = ::unlink(name.constData()) == 0 || ::unlink(name.constData()) == 0;
+    if (::unlink(name.constData()) != 0 && ::unlink(name.constData()) != 0) {
+        throw folderError(folder, errno);
+    }
     constexpr std::array<char, 4096> block{};
     errno = 0;
     const ssize_t written = ::write(file.handle(), block.data(), block.size());
-    if (!unlinked || written < 0 || !syncHandle(file.handle()) || !file.close()) {
+    if (written < 0 || !syncHandle(file.handle()) || !file.close()) {
         throw folderError(folder, errno);
     }
     if (written < static_cast<ssize_t>(block.size())) {

@@ -20,7 +20,7 @@ QByteArray readWholeFile(const QString& path);
 /// Puts a file in place whole: written beside it under a hidden name, synced, renamed over it, and the folder
 /// synced, so that a crash at any moment leaves the old bytes or the new ones. An old file keeps its rights
 /// and the links to it. Throws RuntimeError, also where the old file may not be written, and leaves that as
-/// it was.
+/// it was; only where it is the folder that can't be synced does the new one already lie there.
 void writeWholeFile(const QString& path, QByteArrayView bytes);
 
 /// The same without waiting for the disk, for files that no one needs after a crash: readers find the old

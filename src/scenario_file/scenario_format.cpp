@@ -36,15 +36,10 @@ constexpr std::array specialKeys{
     FileKey{FileSection::Ship, u"YARDSZPOSITION", Writing::KeptYards, Reading::NotKept},
 };
 
-constexpr bool isSameName(QStringView one, QStringView other)
-{
-    return std::equal(one.utf16(), one.utf16() + one.size(), other.utf16(), other.utf16() + other.size());
-}
-
 constexpr FileKey fileKey(FileSection section, QStringView name)
 {
     for (const FileKey& special : specialKeys) {
-        if (special.section == section && isSameName(special.name, name)) {
+        if (special.section == section && isSameKey(special.name, name)) {
             return special;
         }
     }

@@ -134,8 +134,7 @@ std::vector<Finding> validateScenario(const WorkingProfile& profile, const Targe
 
 bool canNameScenarioFile(QStringView title)
 {
-    // The most that file systems take is 255 bytes; while a file is written its name is 7 longer.
-    constexpr qsizetype longestName = 248;
+    constexpr qsizetype longestName = 255; // bytes that file systems take
     const QStringView name = title.trimmed();
     const auto isForbidden = [](QChar c) { return c < u' ' || c == u'/' || c == u'\\'; };
     return !name.isEmpty() && !name.startsWith(u'.') && std::none_of(name.begin(), name.end(), isForbidden) &&

@@ -5,7 +5,6 @@
 #include "shell/main_frm.h"
 #include "ui_about_frm.h"
 
-#include <QKeyEvent>
 #include <QLocale>
 
 namespace torvane {

@@ -14,10 +14,12 @@ static void recover(Editor& editor, const QString& profile, const QDateTime& now
     recoverScenario(profile, editor.paths().scenarioDir, editor.language(), now);
 }
 
-// Its box was shown when it was set aside; what resists still waits for a later start.
+// Its box was shown when it was set aside; what resists still waits for a later start. It also does where it
+// could not be deleted: otherwise each start would make one more scenario of it.
 static void recoverOneSetAside(Editor& editor, const QString& profile, const QDateTime& now)
 {
     try {
+        requireWritableFolder(editor.paths().workDir);
         recover(editor, profile, now);
         deleteFile(profile);
     } catch (const RuntimeError&) {

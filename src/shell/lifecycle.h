@@ -1,15 +1,11 @@
 #pragma once
 
 #include "platform/language.h"
-#include "store/target_area.h"
-#include "store/units.h"
 
 #include <QDate>
 #include <QLatin1StringView>
 #include <QString>
 #include <QStringList>
-
-#include <array>
 
 namespace torvane {
 

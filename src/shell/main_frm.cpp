@@ -25,7 +25,6 @@
 
 #include <QAbstractButton>
 #include <QAction>
-#include <QFileInfo>
 #include <QKeyEvent>
 #include <QMenuBar>
 #include <QResizeEvent>

@@ -7,7 +7,6 @@
 #include "shell/main_frm.h"
 #include "shell/main_menu.h"
 
-#include <QFile>
 #include <QLatin1StringView>
 
 namespace torvane {

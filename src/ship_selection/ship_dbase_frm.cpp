@@ -293,7 +293,7 @@ void ShipDBaseFrm::keep()
     const QString number = QString::number(m_selection.divisionNumber());
     m_editor.divisionRecords().writeDivData(
         {.number = number,
-         .name = QStringLiteral("Division ") + number,
+         .name = storedDivisionName(number),
          .side = wordOf(m_selection.side()),
          .formation = german ? storedFormation(fields.formation) : fields.formation,
          .heading = fields.heading,

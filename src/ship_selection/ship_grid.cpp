@@ -90,6 +90,12 @@ void ShipGridModel::showMarks()
     }
 }
 
+static QVariant alignmentOf(ShipColumn column)
+{
+    return QVariant::fromValue(isNumber(column) ? Qt::AlignRight | Qt::AlignVCenter
+                                                : Qt::AlignLeft | Qt::AlignVCenter);
+}
+
 int ShipGridModel::rowCount(const QModelIndex& parent) const
 {
     return parent.isValid() ? 0 : m_browser.rowCount();
@@ -112,8 +118,7 @@ QVariant ShipGridModel::data(const QModelIndex& index, int role) const
     case Qt::DisplayRole:
         return m_browser.text(index.row(), column);
     case Qt::TextAlignmentRole:
-        return QVariant::fromValue(isNumber(column) ? Qt::AlignRight | Qt::AlignVCenter
-                                                    : Qt::AlignLeft | Qt::AlignVCenter);
+        return alignmentOf(column);
     case Qt::FontRole:
         if (isTaken(index.row())) {
             QFont bold;
@@ -140,7 +145,7 @@ QVariant ShipGridModel::headerData(int section, Qt::Orientation orientation, int
             return shipGridColumns.at(static_cast<std::size_t>(section)).header.in(m_language);
         }
         if (role == Qt::TextAlignmentRole) {
-            return data(index(0, section), role);
+            return alignmentOf(columnOf(section));
         }
     }
     return QAbstractTableModel::headerData(section, orientation, role);

@@ -47,8 +47,8 @@ class ShipGrid : public QTableView
 public:
     explicit ShipGrid(QWidget* parent = nullptr);
 
-    /// Gives the columns their widths: the design's, and no less than header and cells need. `lists` are the
-    /// ships that the grid can show.
+    /// Gives the columns their widths: those of their table, and no less than header and cells need. `lists`
+    /// are the ships that the grid can show.
     void sizeColumns(const ShipLists& lists, Language language);
     /// Both scroll bars, or the upright one alone.
     void showBothScrollBars(bool both);

@@ -4,7 +4,6 @@
 #include "platform/number_text.h"
 #include "platform/runtime_error.h"
 
-#include <algorithm>
 #include <functional>
 #include <utility>
 

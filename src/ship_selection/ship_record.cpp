@@ -78,14 +78,8 @@ constexpr std::array<ShipKey, 36> shipKeysWithSource{{
     {u"MAGBCOM", ShipKey::Source::ClassField, u"m"},
 }};
 
-constexpr bool isSame(QStringView a, QStringView b)
-{
-    return std::u16string_view(a.utf16(), static_cast<std::size_t>(a.size())) ==
-           std::u16string_view(b.utf16(), static_cast<std::size_t>(b.size()));
-}
-
 static_assert(std::ranges::all_of(shipKeysWithSource, [](const ShipKey& entry) {
-    return std::ranges::any_of(shipKeys, [&entry](QStringView key) { return isSame(key, entry.key); });
+    return std::ranges::any_of(shipKeys, [&entry](QStringView key) { return isSameKey(key, entry.key); });
 }));
 
 /// All keys, in the order in which every writer writes them.
@@ -93,7 +87,7 @@ constexpr auto recordKeys = [] {
     std::array<ShipKey, shipKeys.size()> keys;
     std::ranges::transform(shipKeys, keys.begin(), [](QStringView key) {
         const auto* const found = std::ranges::find_if(
-            shipKeysWithSource, [key](const ShipKey& entry) { return isSame(entry.key, key); });
+            shipKeysWithSource, [key](const ShipKey& entry) { return isSameKey(entry.key, key); });
         return found == shipKeysWithSource.end() ? ShipKey{key} : *found;
     });
     return keys;
@@ -145,7 +139,7 @@ void ShipRecords::saveindivShipInfoINI(Side side, int number, const QString& sec
     const ProfileStore::Batch batch(m_store);
     int place = 0;
     for (const QString& line : m_files.read(list)) {
-        Target target = inProfile(section + QStringLiteral("SHIP%1").arg(place++));
+        Target target = inProfile(shipSection(section, place++));
         target.withPosition = createMode;
         writeRecord(target, shipNameOf(line));
     }

@@ -111,6 +111,8 @@ void requireUsableFile(const QString& path, bool forWriting)
 }
 
 /// Whether the file is in write-ahead mode and nobody has it open. A reader would leave a log beside it.
+/// Opens the file itself, which drops no lock: no connection of this process is open between two uses of a
+/// database.
 bool isRestingInWriteAheadMode(const QString& path)
 {
     constexpr int modeAt = 19;

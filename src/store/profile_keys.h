@@ -2,9 +2,16 @@
 
 #include <QStringView>
 
+#include <algorithm>
 #include <array>
 
 namespace torvane {
+
+/// Whether two keys are written alike, also while the program is compiled.
+constexpr bool isSameKey(QStringView one, QStringView other)
+{
+    return std::equal(one.utf16(), one.utf16() + one.size(), other.utf16(), other.utf16() + other.size());
+}
 
 /// The keys of [SCENARIODATA] in the order of the scenario file. The two dimension keys are spelled
 /// differently.

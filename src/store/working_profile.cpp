@@ -70,7 +70,17 @@ QString divisionSection(int division)
 
 QString shipSection(int division, int ship)
 {
-    return QStringLiteral("DIVISION%1SHIP%2").arg(division).arg(ship);
+    return shipSection(divisionSection(division), ship);
+}
+
+QString shipSection(const QString& divisionSection, int ship)
+{
+    return divisionSection + QStringLiteral("SHIP") + QString::number(ship);
+}
+
+QString storedDivisionName(const QString& number)
+{
+    return QStringLiteral("Division ") + number;
 }
 
 QString GetIniKey(ProfileStore& store, const QString& file, QStringView section, QStringView key)

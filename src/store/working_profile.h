@@ -23,6 +23,11 @@ inline constexpr int shipSections = 14;
 /// Section names: "DIVISION3", "DIVISION3SHIP0". Numbers count from 0.
 QString divisionSection(int division);
 QString shipSection(int division, int ship);
+/// The same by the section of the division.
+QString shipSection(const QString& divisionSection, int ship);
+/// What a division is called in the working profile, in every language: "Division " and its number within its
+/// side.
+QString storedDivisionName(const QString& number);
 
 /// One key of any profile file, trimmed of blanks at both ends, or "INVALID" if it is missing or empty.
 QString GetIniKey(ProfileStore& store, const QString& file, QStringView section, QStringView key);

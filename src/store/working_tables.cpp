@@ -4,7 +4,6 @@
 #include "platform/text_files.h"
 #include "store/data_controls.h"
 
-#include <QSqlError>
 #include <QTemporaryDir>
 
 #include <algorithm>
@@ -53,21 +52,26 @@ void makeTables(const QString& path)
 
 } // namespace
 
-void createWorkingTables(const QString& path)
+void placeDatabase(const QString& path, const std::function<void(const QString& made)>& make)
 {
     const QTemporaryDir folder;
     if (!folder.isValid()) {
         throw RuntimeError(RuntimeError::PathAccessError,
                            folder.path() + QStringLiteral(": ") + folder.errorString());
     }
-    const QString made = folder.filePath(QStringLiteral("tables"));
-    makeTables(made);
+    const QString made = folder.filePath(QStringLiteral("database"));
+    make(made);
     const QByteArray bytes = readWholeFile(made);
     // Left behind by the old file, these would be played into the new one.
     for (const char* ending : {"-journal", "-wal", "-shm"}) {
         deleteFile(path + QLatin1StringView(ending));
     }
     writeWholeFile(path, bytes);
+}
+
+void createWorkingTables(const QString& path)
+{
+    placeDatabase(path, makeTables);
 }
 
 void emptyDBase(const QString& path)

@@ -4,6 +4,7 @@
 #include <QString>
 
 #include <array>
+#include <functional>
 
 namespace torvane {
 
@@ -13,6 +14,10 @@ inline constexpr std::array<QLatin1StringView, 11> workingTables{
     QLatin1StringView{"ForceAData"},    QLatin1StringView{"ForceBData"},   QLatin1StringView{"ScenarioData"},
     QLatin1StringView{"ForceTemp"},     QLatin1StringView{"SaveData"},     QLatin1StringView{"FilterBase"},
     QLatin1StringView{"ShipClassData"}, QLatin1StringView{"EditShipData"}};
+
+/// Makes a database file whole: `make` makes it under the name that it is given, and it is put over a file of
+/// `path`, which stays as it was if anything fails. Throws RuntimeError.
+void placeDatabase(const QString& path, const std::function<void(const QString& made)>& make);
 
 /// Makes the database file with its eleven empty tables, over a file of that name, which stays as it was if
 /// that fails. Throws RuntimeError.

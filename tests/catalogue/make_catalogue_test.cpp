@@ -266,7 +266,7 @@ TEST_F(MakeCatalogue, NamesADatabaseThatCannotBeWritten)
 TEST_F(MakeCatalogue, AFullDiskLeavesTheOlderDatabase)
 {
     Faults faults;
-    const ShipData data = parseShipData(CatalogueText().files(), faults);
+    const CatalogueData data = parseShipData(CatalogueText().files(), faults);
     put("ShipDatabase.mdb", "older");
     {
         const testing::FullDisk full(1000);

@@ -5,15 +5,6 @@
 namespace torvane::testing {
 namespace {
 
-TEST(Spacings, AreEight)
-{
-    const char* const yards[] = {"500", "600", "700", "800", "900", "1000", "1500", "2000"};
-    ASSERT_EQ(formationSpacings.size(), std::size(yards));
-    for (std::size_t i = 0; i < formationSpacings.size(); ++i) {
-        EXPECT_STREQ(formationSpacings[i], yards[i]);
-    }
-}
-
 TEST(Heading, TurnsByFiveAndWrapsToTheOtherEnd)
 {
     EXPECT_EQ(turnedHeading(u"0", 5), QStringLiteral("5"));

@@ -338,10 +338,10 @@ TEST(ScenarioFileName, RefusesDevices)
 
 TEST(ScenarioFileName, RefusesMoreThanAFileSystemTakes)
 {
-    EXPECT_TRUE(canNameScenarioFile(QString(244, u'x')));
-    EXPECT_FALSE(canNameScenarioFile(QString(245, u'x')));
-    EXPECT_TRUE(canNameScenarioFile(QString(122, u'ü'))) << "two bytes each";
-    EXPECT_FALSE(canNameScenarioFile(QString(123, u'ü')));
+    EXPECT_TRUE(canNameScenarioFile(QString(251, u'x')));
+    EXPECT_FALSE(canNameScenarioFile(QString(252, u'x')));
+    EXPECT_TRUE(canNameScenarioFile(QString(125, u'ü'))) << "two bytes each";
+    EXPECT_FALSE(canNameScenarioFile(QString(126, u'ü')));
 }
 
 } // namespace

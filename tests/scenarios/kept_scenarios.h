@@ -36,9 +36,9 @@ inline QString catalogueDatabase()
 }
 
 /// The catalogue as its files have it.
-inline const ShipData& catalogue()
+inline const CatalogueData& catalogue()
 {
-    static const ShipData data = [] {
+    static const CatalogueData data = [] {
         Faults faults;
         return parseShipData(readShipDataFiles(QStringLiteral(CATALOGUE_FOLDER)), faults);
     }();

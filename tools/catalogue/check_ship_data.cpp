@@ -1,5 +1,7 @@
 #include "catalogue/check_ship_data.h"
 
+#include "ship_selection/ship_lists.h"
+
 #include <QHash>
 
 #include <algorithm>
@@ -61,7 +63,7 @@ void checkOnce(const Records<Record>& records, QString Record::*name, const QStr
     }
 }
 
-void checkNames(const ShipData& data, Faults& faults)
+void checkNames(const CatalogueData& data, Faults& faults)
 {
     const auto never = [](const auto&, const auto&) { return false; };
     checkOnce(data.ships, &Ship::name, QStringLiteral("name"), never, faults);
@@ -91,7 +93,7 @@ void checkShip(const Ship& ship, const ShipClass& shipClass, const QString& file
     }
 }
 
-void checkShips(const ShipData& data, Faults& faults)
+void checkShips(const CatalogueData& data, Faults& faults)
 {
     const ByName<ShipClass> classes(data.classes.rows, &ShipClass::name);
     for (const Ship& ship : data.ships.rows) {
@@ -105,7 +107,7 @@ void checkShips(const ShipData& data, Faults& faults)
     }
 }
 
-void checkClassIsUsed(const ShipData& data, Faults& faults)
+void checkClassIsUsed(const CatalogueData& data, Faults& faults)
 {
     const ByName<Ship> ships(data.ships.rows, &Ship::className);
     for (const ShipClass& shipClass : data.classes.rows) {
@@ -142,7 +144,7 @@ void checkWeapons(const ShipClass& shipClass, const QString& file, Faults& fault
     }
 }
 
-void checkRangeOfClass(const ShipData& data, const ShipClass& shipClass, const ByName<GunRange>& ranges,
+void checkRangeOfClass(const CatalogueData& data, const ShipClass& shipClass, const ByName<GunRange>& ranges,
                        Faults& faults)
 {
     if (mainGuns(shipClass) > 0 && data.ranges.whole && ranges.find(shipClass.name) == nullptr) {
@@ -152,7 +154,8 @@ void checkRangeOfClass(const ShipData& data, const ShipClass& shipClass, const B
     }
 }
 
-void checkRange(const ShipData& data, const GunRange& range, const ByName<ShipClass>& classes, Faults& faults)
+void checkRange(const CatalogueData& data, const GunRange& range, const ByName<ShipClass>& classes,
+                Faults& faults)
 {
     const auto fault = [&](const QString& reason) { faults.add(data.ranges.file, range.line, reason); };
     const ShipClass* const shipClass = classes.find(range.className);
@@ -174,7 +177,7 @@ void checkRange(const ShipData& data, const GunRange& range, const ByName<ShipCl
     }
 }
 
-void checkClasses(const ShipData& data, Faults& faults)
+void checkClasses(const CatalogueData& data, Faults& faults)
 {
     const ByName<GunRange> ranges(data.ranges.rows, &GunRange::className);
     for (const ShipClass& shipClass : data.classes.rows) {
@@ -187,32 +190,32 @@ void checkClasses(const ShipData& data, Faults& faults)
     }
 }
 
-void checkNumberOfShips(const Records<Ship>& ships, const NavySize& size, Faults& faults)
+void checkNumberOfShips(const Records<Ship>& ships, const ListedNavy& navy, Faults& faults)
 {
     int count = 0;
     int line = ships.lastLine;
     for (const Ship& ship : ships.rows) {
-        if (ship.navy == size.navy && ++count == size.ships + 1) {
+        if (ship.navy == navy.code && ++count == navy.rows + 1) {
             line = ship.line;
         }
     }
-    if (count > size.ships || (count < size.ships && ships.whole)) {
+    if (count > navy.rows || (count < navy.rows && ships.whole)) {
         faults.add(ships.file, line,
                    QStringLiteral("%1 ships of navy %2, the editor needs exactly %3")
-                       .arg(QString::number(count), size.navy, QString::number(size.ships)));
+                       .arg(QString::number(count), navy.code, QString::number(navy.rows)));
     }
 }
 
 } // namespace
 
-void checkShipData(const ShipData& data, Faults& faults)
+void checkShipData(const CatalogueData& data, Faults& faults)
 {
     checkNames(data, faults);
     checkShips(data, faults);
     checkClassIsUsed(data, faults);
     checkClasses(data, faults);
-    for (const NavySize& size : navySizes) {
-        checkNumberOfShips(data.ships, size, faults);
+    for (const ListedNavy& navy : listedNavies) {
+        checkNumberOfShips(data.ships, navy, faults);
     }
 }
 

@@ -3,6 +3,7 @@
 #include "catalogue/csv_table.h"
 #include "catalogue/row_reader.h"
 #include "platform/text_files.h"
+#include "ship_selection/ship_lists.h"
 
 #include <QDir>
 
@@ -77,9 +78,9 @@ QString readType(const RowReader& row)
 QString readNavy(const RowReader& row)
 {
     std::vector<QString> navies;
-    navies.reserve(navySizes.size());
-    for (const NavySize& size : navySizes) {
-        navies.emplace_back(size.navy);
+    navies.reserve(listedNavies.size());
+    for (const ListedNavy& navy : listedNavies) {
+        navies.emplace_back(navy.code);
     }
     return row.word(QStringLiteral("navy"), navies);
 }
@@ -181,7 +182,7 @@ ShipDataFiles readShipDataFiles(const QString& folder)
             .ranges = readWholeFile(directory.filePath("gun_ranges.csv"))};
 }
 
-ShipData parseShipData(const ShipDataFiles& files, Faults& faults)
+CatalogueData parseShipData(const ShipDataFiles& files, Faults& faults)
 {
     return {.ships = readRecords(files.ships, "ships.csv", shipColumns, readShip, faults),
             .classes = readRecords(files.classes, "classes.csv", classColumns(), readClass, faults),

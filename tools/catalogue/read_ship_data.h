@@ -23,6 +23,6 @@ ShipDataFiles readShipDataFiles(const QString& folder);
 /// Takes the three files apart and checks each field by itself: columns, numbers and their limits, types,
 /// navies, names. A row with a bad field is a fault and stays in the result; a line that is no row is a fault
 /// and doesn't.
-ShipData parseShipData(const ShipDataFiles& files, Faults& faults);
+CatalogueData parseShipData(const ShipDataFiles& files, Faults& faults);
 
 } // namespace torvane

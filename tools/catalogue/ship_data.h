@@ -16,16 +16,6 @@ inline constexpr std::array<QLatin1StringView, 6> shipTypes{QLatin1StringView{"B
                                                             QLatin1StringView{"CA"}, QLatin1StringView{"CL"},
                                                             QLatin1StringView{"DD"}, QLatin1StringView{"TR"}};
 
-struct NavySize
-{
-    QLatin1StringView navy;
-    int ships; ///< exactly: the editor's lists have these sizes built in
-};
-
-inline constexpr std::array<NavySize, 4> navySizes{
-    NavySize{QLatin1StringView{"RN"}, 424}, NavySize{QLatin1StringView{"USN"}, 399},
-    NavySize{QLatin1StringView{"KM"}, 198}, NavySize{QLatin1StringView{"IJN"}, 245}};
-
 enum class Magazine {
     A, ///< forward, and the port side amidships
     B, ///< aft, and the starboard side amidships
@@ -107,7 +97,7 @@ struct Records
     bool whole = true; ///< no row was dropped: what is missing here is missing in the file
 };
 
-struct ShipData
+struct CatalogueData
 {
     Records<Ship> ships;
     Records<ShipClass> classes;

@@ -1,5 +1,7 @@
 #include "catalogue/summary.h"
 
+#include "ship_selection/ship_lists.h"
+
 #include <QStringList>
 
 #include <algorithm>
@@ -11,7 +13,7 @@ namespace {
 constexpr qsizetype cellWidth = 6;
 
 /// Ships of a navy and a type; an empty name counts all.
-QString count(const ShipData& data, const QString& navy, const QString& type)
+QString count(const CatalogueData& data, const QString& navy, const QString& type)
 {
     const auto& ships = data.ships.rows;
     return QString::number(std::count_if(ships.begin(), ships.end(), [&](const Ship& ship) {
@@ -19,7 +21,7 @@ QString count(const ShipData& data, const QString& navy, const QString& type)
     }));
 }
 
-QString line(const ShipData& data, const QString& title, const QString& navy)
+QString line(const CatalogueData& data, const QString& title, const QString& navy)
 {
     QString text = title.leftJustified(cellWidth);
     for (const QLatin1StringView type : shipTypes) {
@@ -30,15 +32,15 @@ QString line(const ShipData& data, const QString& title, const QString& navy)
 
 } // namespace
 
-QString catalogueSummary(const ShipData& data)
+QString catalogueSummary(const CatalogueData& data)
 {
     QString text = QStringLiteral("navy").leftJustified(cellWidth);
     for (const QLatin1StringView type : shipTypes) {
         text += QString(type).rightJustified(cellWidth);
     }
     text += QStringLiteral("all").rightJustified(cellWidth) + u'\n';
-    for (const NavySize& size : navySizes) {
-        text += line(data, size.navy, size.navy);
+    for (const ListedNavy& navy : listedNavies) {
+        text += line(data, navy.code, navy.code);
     }
     return text + line(data, QStringLiteral("all"), QString());
 }

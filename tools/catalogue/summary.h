@@ -7,6 +7,6 @@
 namespace torvane {
 
 /// A table of the number of ships by navy (rows) and type (columns), with sums. Ends with a line feed.
-QString catalogueSummary(const ShipData& data);
+QString catalogueSummary(const CatalogueData& data);
 
 } // namespace torvane

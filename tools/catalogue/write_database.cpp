@@ -2,13 +2,12 @@
 
 #include "catalogue/derived_values.h"
 #include "platform/runtime_error.h"
-#include "platform/text_files.h"
 #include "store/data_controls.h"
+#include "store/working_tables.h"
 
 #include <QSqlError>
 #include <QSqlQuery>
 #include <QStringList>
-#include <QTemporaryDir>
 
 #include <algorithm>
 #include <numeric>
@@ -124,14 +123,14 @@ std::vector<Fields> tableOf(const std::vector<Record>& records, ToFields toField
     return rows;
 }
 
-const ShipClass& classOf(const ShipData& data, const Ship& ship)
+const ShipClass& classOf(const CatalogueData& data, const Ship& ship)
 {
     const auto& rows = data.classes.rows;
     return *std::find_if(rows.begin(), rows.end(),
                          [&](const ShipClass& row) { return row.name == ship.className; });
 }
 
-void makeTables(const ShipData& data, const QString& path)
+void makeTables(const CatalogueData& data, const QString& path)
 {
     Database database(path, Database::Access::Create);
     database.execute(QStringLiteral("BEGIN"));
@@ -145,16 +144,9 @@ void makeTables(const ShipData& data, const QString& path)
 
 } // namespace
 
-void writeShipDatabase(const ShipData& data, const QString& path)
+void writeShipDatabase(const CatalogueData& data, const QString& path)
 {
-    const QTemporaryDir folder;
-    if (!folder.isValid()) {
-        throw RuntimeError(RuntimeError::PathAccessError,
-                           folder.path() + QStringLiteral(": ") + folder.errorString());
-    }
-    const QString made = folder.filePath(QStringLiteral("catalogue"));
-    makeTables(data, made);
-    writeWholeFile(path, readWholeFile(made));
+    placeDatabase(path, [&data](const QString& made) { makeTables(data, made); });
 }
 
 } // namespace torvane

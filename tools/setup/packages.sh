@@ -1,5 +1,5 @@
-# Debian packages by what they are needed for, and how to install what is missing. Sourced by run, test and
-# .ci/run; needs bash.
+# Debian packages by what they are needed for, and how to install what is missing. Sourced by run, test,
+# .ci/run and those of tools/ that need packages of their own; needs bash.
 
 build_packages=(g++ cmake ninja-build qt6-base-dev qt6-svg-dev libqt6sql6-sqlite qt6-translations-l10n)
 display_packages=(libqt6gui6 qt6-qpa-plugins fonts-dejavu-core)
