@@ -1,21 +1,9 @@
-#include "platform/text_files.h"
-
-#include "platform/runtime_error.h"
-#include "support/expect_error.h"
-#include "support/failing_system.h"
-#include "support/printers.h"
-
-#include <QDir>
-#include <QFile>
-#include <QTemporaryDir>
-
-#include <gmock/gmock.h>
+#include "platform/text_files_fixture.h"
 
 #include <cerrno>
 #include <cstdio>
 #include <fcntl.h>
 #include <sys/stat.h>
-#include <unistd.h>
 #include <utility>
 
 /// The error of the next rename of this program; none at 0.
@@ -34,125 +22,15 @@ extern "C" int rename(const char* from, const char* to) noexcept
 namespace torvane {
 namespace {
 
-using ::testing::HasSubstr;
-
-class TextFiles : public ::testing::Test
-{
-protected:
-    QString path(const QString& name) const { return m_folder.filePath(name); }
-    QString folder() const { return m_folder.path(); }
-
-    QStringList names() const
-    {
-        return QDir(folder()).entryList(QDir::AllEntries | QDir::Hidden | QDir::System |
-                                        QDir::NoDotAndDotDot);
-    }
-
-    void put(const QString& name, const QByteArray& bytes) const
-    {
-        QFile file(path(name));
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        ASSERT_EQ(file.write(bytes), bytes.size());
-    }
-
-    QByteArray bytesOf(const QString& name) const
-    {
-        QFile file(path(name));
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(not there)");
-    }
-
-    template <typename Call>
-    static void expectError(RuntimeError::Number number, Call call, const QString& named)
-    {
-        testing::expectError(number, call, HasSubstr(named.toStdString()));
-    }
-
-private:
-    QTemporaryDir m_folder;
-};
-
-class ReadWholeFile : public TextFiles
+class WriteWholeFile : public testing::TextFiles
 {
 };
-class WriteWholeFile : public TextFiles
+class WriteScratchFile : public testing::TextFiles
 {
 };
-class WriteScratchFile : public TextFiles
+class RequireWritableFolder : public testing::TextFiles
 {
 };
-class DeleteFile : public TextFiles
-{
-};
-class RequireWritableFolder : public TextFiles
-{
-};
-class IsThere : public TextFiles
-{
-};
-class RemoveUnfinishedFiles : public TextFiles
-{
-};
-
-TEST_F(ReadWholeFile, GivesEveryByte)
-{
-    const QByteArray bytes("a\r\n\0\x1A\xFFz", 7);
-    put("Größe.txt", bytes);
-    EXPECT_EQ(readWholeFile(path("Größe.txt")), bytes);
-}
-
-TEST_F(ReadWholeFile, AnEmptyFileIsNoError)
-{
-    put("empty", {});
-    EXPECT_EQ(readWholeFile(path("empty")), QByteArray());
-}
-
-TEST_F(ReadWholeFile, TakesFilesLongerThanAnyBuffer)
-{
-    const QByteArray bytes = QByteArray("0123456789").repeated(100'000);
-    put("long", bytes);
-    EXPECT_EQ(readWholeFile(path("long")), bytes);
-}
-
-TEST_F(ReadWholeFile, AMissingFileIsFileNotFound)
-{
-    expectError(
-        RuntimeError::FileNotFound, [this] { readWholeFile(path("none")); }, path("none"));
-}
-
-TEST_F(ReadWholeFile, AFileUsedAsAFolderIsPathNotFound)
-{
-    put("file", "x");
-    expectError(
-        RuntimeError::PathNotFound, [this] { readWholeFile(path("file/below")); }, path("file/below"));
-}
-
-TEST_F(ReadWholeFile, AFolderIsAPathAccessError)
-{
-    expectError(
-        RuntimeError::PathAccessError, [this] { readWholeFile(folder()); }, folder());
-}
-
-TEST_F(ReadWholeFile, AnUnreadableFileIsPermissionDenied)
-{
-    put("secret", "x");
-    QFile::setPermissions(path("secret"), {});
-    const testing::Unprivileged nobody;
-    expectError(
-        RuntimeError::PermissionDenied, [this] { readWholeFile(path("secret")); }, path("secret"));
-}
-
-TEST_F(ReadWholeFile, APipeDoesNotHoldUpTheProgram)
-{
-    ASSERT_EQ(::mkfifo(QFile::encodeName(path("pipe")).constData(), 0600), 0);
-    expectError(
-        RuntimeError::DeviceIoError, [this] { readWholeFile(path("pipe")); }, path("pipe"));
-}
-
-TEST_F(ReadWholeFile, AZeroByteInThePathNamesNoOtherFile)
-{
-    put("file", "x");
-    EXPECT_THROW(readWholeFile(path("file") + QChar::Null + "tail"), RuntimeError);
-}
 
 TEST_F(WriteWholeFile, PutsEveryByteInANewFile)
 {
@@ -380,63 +258,6 @@ TEST_F(WriteScratchFile, AZeroByteInThePathNamesNoOtherFile)
     EXPECT_EQ(names(), QStringList());
 }
 
-TEST_F(DeleteFile, DeletesTheFileAndNothingElse)
-{
-    put("file", "x");
-    put("file2", "x");
-    deleteFile(path("file"));
-    EXPECT_EQ(names(), QStringList("file2"));
-}
-
-TEST_F(DeleteFile, AMissingFileIsNoError)
-{
-    EXPECT_NO_THROW(deleteFile(path("none")));
-    EXPECT_NO_THROW(deleteFile(path("none/below")));
-    put("file", "x");
-    EXPECT_NO_THROW(deleteFile(path("file/below")));
-}
-
-TEST_F(DeleteFile, AFolderIsAnErrorAndStays)
-{
-    ASSERT_TRUE(QDir(folder()).mkdir("taken"));
-    expectError(
-        RuntimeError::PathAccessError, [this] { deleteFile(path("taken")); }, path("taken"));
-    EXPECT_TRUE(QFileInfo(path("taken")).isDir());
-}
-
-TEST_F(DeleteFile, AFolderWithoutWritePermissionIsPermissionDenied)
-{
-    put("file", "x");
-    {
-        const testing::ReadOnlyFolder readOnly(folder());
-        expectError(
-            RuntimeError::PermissionDenied, [this] { deleteFile(path("file")); }, path("file"));
-    }
-    EXPECT_EQ(bytesOf("file"), "x");
-}
-
-TEST_F(DeleteFile, TheTargetOfALinkStays)
-{
-    put("file", "x");
-    ASSERT_TRUE(QFile::link(path("file"), path("link")));
-    deleteFile(path("link"));
-    EXPECT_EQ(names(), QStringList("file"));
-}
-
-TEST_F(DeleteFile, ALinkToNothingIsDeleted)
-{
-    ASSERT_TRUE(QFile::link(path("none"), path("link")));
-    deleteFile(path("link"));
-    EXPECT_EQ(names(), QStringList());
-}
-
-TEST_F(DeleteFile, AZeroByteInThePathNamesNoOtherFile)
-{
-    put("file", "x");
-    EXPECT_THROW(deleteFile(path("file") + QChar::Null + "tail"), RuntimeError);
-    EXPECT_EQ(bytesOf("file"), "x");
-}
-
 TEST_F(RequireWritableFolder, AWritableFolderPassesAndStaysAsItWas)
 {
     put("file", "x");
@@ -482,47 +303,6 @@ TEST_F(RequireWritableFolder, ADiskWithRoomForAPartOfABlockIsFull)
     const testing::FullDisk full(100);
     expectError(
         RuntimeError::DiskFull, [this] { requireWritableFolder(folder()); }, folder());
-}
-
-TEST_F(IsThere, TellsAFileAndAFolderFromNothing)
-{
-    put("file", "x");
-    EXPECT_TRUE(isThere(path("file")));
-    EXPECT_TRUE(isThere(folder()));
-    EXPECT_FALSE(isThere(path("other")));
-    EXPECT_FALSE(isThere(path("file/below")));
-}
-
-TEST_F(IsThere, WhatCannotBeSeenIsAnErrorAndNotTakenForMissing)
-{
-    put("file", "x");
-    const testing::ClosedFolder closed(folder());
-    expectError(
-        RuntimeError::PermissionDenied, [this] { isThere(path("file")); }, path("file"));
-}
-
-TEST_F(RemoveUnfinishedFiles, DeletesWhatAKilledWriteLeavesAndNothingElse)
-{
-    for (const char* name : {".torvane-aZ09bY", ".torvane-abcdef", ".torvane-", ".torvane-abcdefg",
-                             "x.torvane-abcdef", "First.scn", "First.scn.backup"}) {
-        put(name, "x");
-    }
-    ASSERT_TRUE(QDir(folder()).mkdir(".torvane-folder"));
-    removeUnfinishedFiles(folder());
-    EXPECT_THAT(names(),
-                ::testing::UnorderedElementsAre(".torvane-", ".torvane-abcdefg", ".torvane-folder",
-                                                "First.scn", "First.scn.backup", "x.torvane-abcdef"));
-}
-
-TEST_F(RemoveUnfinishedFiles, AMissingFolderAndAFileThatCannotBeDeletedAreNoErrors)
-{
-    EXPECT_NO_THROW(removeUnfinishedFiles(path("none")));
-    put(".torvane-abcdef", "x");
-    {
-        const testing::ReadOnlyFolder readOnly(folder());
-        EXPECT_NO_THROW(removeUnfinishedFiles(folder()));
-    }
-    EXPECT_EQ(names(), QStringList(".torvane-abcdef"));
 }
 
 } // namespace
