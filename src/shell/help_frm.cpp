@@ -15,8 +15,8 @@ namespace torvane {
 
 namespace {
 
-constexpr int contentsWidth = 260;
-constexpr int guideWidth = 680;
+constexpr int contentsWidth = 250;
+constexpr int guideWidth = 724; // holds the guide's pictures beside its scroll bar
 constexpr int largestZoom = 10;
 constexpr int smallestZoom = -4;
 

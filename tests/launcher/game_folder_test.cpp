@@ -72,6 +72,15 @@ TEST_F(GameFolderOfAUser, HasProgramsThatRunAndFilesThatCanBeWritten)
     EXPECT_TRUE(rights("Scenarios/River Plate.scn") & QFile::WriteOwner);
 }
 
+TEST_F(GameFolderOfAUser, GivesAProgramItsRightsWhereAKilledStartCouldNot)
+{
+    refresh();
+    const QString program = folder() + QStringLiteral("/TorvaneScenarioEditor");
+    ASSERT_TRUE(QFile::setPermissions(program, QFile::ReadOwner | QFile::WriteOwner));
+    refresh();
+    EXPECT_TRUE(QFile::permissions(program) & QFile::ExeOwner);
+}
+
 TEST_F(GameFolderOfAUser, TakesANewVersionOfWhatTheUserLeftAlone)
 {
     refresh();
