@@ -323,10 +323,10 @@ void MainFrm::keyPressEvent(QKeyEvent* event)
     if (event->key() == Qt::Key_Escape || event->key() == Qt::Key_F12) {
         runHandler([this] { unload(); });
     } else if (event->key() == Qt::Key_F10) {
-        // The captions of one language carry no mnemonics: this key leads into the menus in both.
+        // The captions of one language carry no mnemonics: this key leads into the menus in both. An open menu
+        // takes the keys by itself; the focus stays where it comes back to.
         QMenuBar* bar = findChild<QMenuBar*>();
         bar->setActiveAction(bar->actions().constFirst());
-        bar->setFocus(Qt::MenuBarFocusReason);
     } else {
         EditorForm::keyPressEvent(event);
     }

@@ -212,6 +212,7 @@ TEST_P(KeyboardRoad, LeadsFromNewToASavedScenarioAndToTheGame)
     const SavedScenario saved(folder.scenarioFile(title));
     EXPECT_EQ(saved.value(QStringLiteral("SCENARIODATA"), "TITLE"), title);
     EXPECT_EQ(saved.value(QStringLiteral("SCENARIODATA"), "DESCRIPTION_LINE0"), description);
+    EXPECT_EQ(saved.value(QStringLiteral("SCENARIODATA"), "BATTLETYPE"), QStringLiteral("0")); // a meeting
     EXPECT_EQ(saved.value(QStringLiteral("SCENARIOINFO"), "DIVISIONCNT"), QStringLiteral("2"));
     expectDivision(saved, forceA);
     expectDivision(saved, forceB);
@@ -219,6 +220,17 @@ TEST_P(KeyboardRoad, LeadsFromNewToASavedScenarioAndToTheGame)
     EXPECT_EQ(saved.placeOfShip(QStringLiteral("DIVISION1SHIP0")) -
                   saved.placeOfShip(QStringLiteral("DIVISION0SHIP0")),
               yardsPerPixel * forceB.way.pixels());
+}
+
+TEST_P(KeyboardRoad, TheMapHasTheKeysAgainAfterMenusInWhichNothingIsChosen)
+{
+    run.start();
+    run.press(
+        {QStringLiteral("F10"), QStringLiteral("Right"), QStringLiteral("Escape"), QStringLiteral("Escape")});
+    const QImage before = run.mapPicture();
+    run.press(arrows(QStringLiteral("ctrl+shift+"), {-3, 2}));
+    EXPECT_NE(run.mapPicture(), before) << "no cross shows the pointer";
+    run.expectWindow(run.names().mainWindow);
 }
 
 } // namespace

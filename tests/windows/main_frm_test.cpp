@@ -342,11 +342,13 @@ TEST_F(MainWindow, HelpTopicsOpensTheHelpFileOfTheWorkFolder)
     EXPECT_TRUE(script.helpViewer.chapters.isEmpty()) << "both open at the contents";
 }
 
-TEST_F(MainWindow, TheMenusAreReachedByF10)
+// Whatever is chosen, the keys that follow are meant for the map.
+TEST_F(MainWindow, TheMenusAreReachedByF10AndTheMapKeepsTheFocus)
 {
     startPastSplash();
     press(map(), Qt::Key_F10);
     EXPECT_EQ(control<QMenuBar>(main(), QStringLiteral("menuBar"))->activeAction(), entry("File"));
+    EXPECT_EQ(main().focusWidget(), map());
 }
 
 TEST_F(MainWindow, HasItsNormalLayout)
