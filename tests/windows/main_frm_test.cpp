@@ -351,6 +351,19 @@ TEST_F(MainWindow, TheMenusAreReachedByF10AndTheMapKeepsTheFocus)
     EXPECT_EQ(main().focusWidget(), map());
 }
 
+TEST_F(MainWindow, AMenuBarThatIsNotInUseLeavesTheKeysToTheMap)
+{
+    startPastSplash();
+    auto* bar = control<QMenuBar>(main(), QStringLiteral("menuBar"));
+    bar->setFocus();
+    EXPECT_TRUE(map()->hasFocus());
+    press(map(), Qt::Key_F10);
+    press(QApplication::activePopupWidget(), Qt::Key_Escape);
+    EXPECT_TRUE(bar->hasFocus()) << "the arrows go from menu to menu";
+    press(bar, Qt::Key_Escape);
+    EXPECT_TRUE(map()->hasFocus());
+}
+
 TEST_F(MainWindow, HasItsNormalLayout)
 {
     startPastSplash();
