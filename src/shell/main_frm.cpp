@@ -25,6 +25,7 @@
 
 #include <QAbstractButton>
 #include <QAction>
+#include <QApplication>
 #include <QKeyEvent>
 #include <QMenuBar>
 #include <QResizeEvent>
@@ -51,6 +52,7 @@ MainFrm::MainFrm(Editor& editor) : EditorForm(editor, QStringLiteral("MainFrm"),
     makeSurface();
     connectCommands();
     connectMap();
+    leadKeysToMap();
 }
 
 MainFrm::~MainFrm()
@@ -120,6 +122,18 @@ void MainFrm::connectMap()
                [this, key = QString::fromLatin1(row.repositionKey)] { askForPosition(key); });
         }
     }
+}
+
+// A menu bar that is left together with the window has the focus when the window comes back, though no menu
+// is in use any more, and would swallow the keys that are meant for the map.
+void MainFrm::leadKeysToMap()
+{
+    connect(qApp, &QApplication::focusChanged, this, [this](const QWidget*, const QWidget* focus) {
+        const auto* bar = qobject_cast<const QMenuBar*>(focus);
+        if (bar && bar->parent() == this && !bar->activeAction()) {
+            m_surface->map().setFocus();
+        }
+    });
 }
 
 void MainFrm::askForPosition(const QString& repositionKey)
@@ -322,10 +336,10 @@ void MainFrm::keyPressEvent(QKeyEvent* event)
     if (event->key() == Qt::Key_Escape || event->key() == Qt::Key_F12) {
         runHandler([this] { unload(); });
     } else if (event->key() == Qt::Key_F10) {
-        // The captions of one language carry no mnemonics: this key leads into the menus in both.
+        // The captions of one language carry no mnemonics: this key leads into the menus in both. An open
+        // menu takes the keys by itself; the focus stays where it comes back to.
         QMenuBar* bar = findChild<QMenuBar*>();
         bar->setActiveAction(bar->actions().constFirst());
-        bar->setFocus(Qt::MenuBarFocusReason);
     } else {
         EditorForm::keyPressEvent(event);
     }

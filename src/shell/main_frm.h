@@ -87,6 +87,7 @@ private:
     void makeSurface();
     void connectCommands();
     void connectMap();
+    void leadKeysToMap();
     void fitMenuBar();
     QString findBasePath();
     void showDebugReadOuts();

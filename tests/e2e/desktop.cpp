@@ -265,6 +265,25 @@ QStringList GameFolder::workNames() const
         .entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot, QDir::Name);
 }
 
+void GameFolder::putGame(const QString& name) const
+{
+    QFile game(path() + QLatin1Char('/') + name);
+    if (!game.open(QIODevice::WriteOnly) || game.write("#!/bin/sh\npwd > started\n") < 0 ||
+        !game.setPermissions(game.permissions() | QFile::ExeOwner)) {
+        throw std::runtime_error("can't make " + name.toStdString());
+    }
+}
+
+QString GameFolder::gameStart() const
+{
+    QFile started(path() + QStringLiteral("/started"));
+    if (!eventually([&] { return started.exists() && started.size() > 1; }) ||
+        !started.open(QIODevice::ReadOnly)) {
+        return {};
+    }
+    return QString::fromUtf8(started.readAll()).trimmed();
+}
+
 std::unique_ptr<QProcess> GameFolder::start(const QString& program, const Desktop& desktop) const
 {
     auto process = std::make_unique<QProcess>();

@@ -82,6 +82,10 @@ public:
     }
     /// The names in the work folder, sorted.
     QStringList workNames() const;
+    /// Puts a program in the place of the game that notes in which folder it is started.
+    void putGame(const QString& name) const;
+    /// Waits until that program runs, and gives the folder; empty if it doesn't.
+    QString gameStart() const;
     /// Starts a program of the folder on a screen.
     std::unique_ptr<QProcess> start(const QString& program, const Desktop& desktop) const;
 

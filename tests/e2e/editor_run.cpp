@@ -75,6 +75,11 @@ void EditorRun::leave()
     m_desktop.close(names().mainWindow);
     expectWindow(names().exitQuestion);
     press({QStringLiteral("Return")});
+    awaitEnd();
+}
+
+void EditorRun::awaitEnd()
+{
     if (!m_process->waitForFinished(20000) || m_process->exitStatus() != QProcess::NormalExit ||
         m_process->exitCode() != 0) {
         throw std::runtime_error("the program doesn't end as it should");

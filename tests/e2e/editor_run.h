@@ -30,8 +30,11 @@ namespace entry {
 inline constexpr int fresh = 1;
 inline constexpr int load = 2;
 inline constexpr int save = 3;
+inline constexpr int exit = 5;
 inline constexpr int overview = 1;
 inline constexpr int targetArea = 2;
+inline constexpr int forceA = 1;
+inline constexpr int forceB = 2;
 } // namespace entry
 
 /// One of the built programs on a screen, used as a person uses it who knows the keyboard: what leads through
@@ -52,6 +55,8 @@ public:
     void start(const std::function<void()>& splash = {});
     /// Leaves the program without starting the game.
     void leave();
+    /// Waits until the program has ended as it should.
+    void awaitEnd();
 
     /// Chooses an entry of the main window's menus by its place in the menu and in those below it, from 1, as
     /// the arrow keys count them: what can be chosen alone.

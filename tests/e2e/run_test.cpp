@@ -89,20 +89,13 @@ TEST_F(RealRun, TheCloseBoxAsksTheSameQuestion)
 
 TEST_F(RealRun, YesStartsTheGameInItsFolder)
 {
-    QFile game(folder.path() + QStringLiteral("/Torvane Deutsch.exe"));
-    ASSERT_TRUE(game.open(QIODevice::WriteOnly));
-    game.write("#!/bin/sh\npwd > started\n");
-    game.close();
-    game.setPermissions(game.permissions() | QFile::ExeOwner);
+    folder.putGame(QStringLiteral("Torvane Deutsch.exe"));
     start();
     desktop.press({QStringLiteral("F12")});
     ASSERT_TRUE(desktop.isActive(germanQuestion));
     desktop.press({QStringLiteral("alt+j")});
     expectEnd();
-    QFile started(folder.path() + QStringLiteral("/started"));
-    ASSERT_TRUE(eventually([&] { return started.exists() && started.size() > 1; }));
-    ASSERT_TRUE(started.open(QIODevice::ReadOnly));
-    EXPECT_EQ(QString::fromUtf8(started.readAll()).trimmed(), QFileInfo(folder.path()).canonicalFilePath());
+    EXPECT_EQ(folder.gameStart(), QFileInfo(folder.path()).canonicalFilePath());
 }
 
 TEST_F(RealRun, YesWithoutAGameJustEnds)
