@@ -2,7 +2,6 @@
 #include "windows/main_frm_fixture.h"
 
 #include <QDir>
-#include <QMenuBar>
 #include <QPushButton>
 
 #include <gmock/gmock.h>
@@ -78,28 +77,6 @@ TEST_F(MainWindow, HelpTopicsOpensTheHelpFileOfTheWorkFolder)
     press(map(), Qt::Key_F1);
     EXPECT_EQ(script.helpViewer.shown.size(), 2);
     EXPECT_TRUE(script.helpViewer.chapters.isEmpty()) << "both open at the contents";
-}
-
-// Whatever is chosen, the keys that follow are meant for the map.
-TEST_F(MainWindow, TheMenusAreReachedByF10AndTheMapKeepsTheFocus)
-{
-    startPastSplash();
-    press(map(), Qt::Key_F10);
-    EXPECT_EQ(control<QMenuBar>(main(), QStringLiteral("menuBar"))->activeAction(), entry("File"));
-    EXPECT_EQ(main().focusWidget(), map());
-}
-
-TEST_F(MainWindow, AMenuBarThatIsNotInUseLeavesTheKeysToTheMap)
-{
-    startPastSplash();
-    auto* bar = control<QMenuBar>(main(), QStringLiteral("menuBar"));
-    bar->setFocus();
-    EXPECT_TRUE(map()->hasFocus());
-    press(map(), Qt::Key_F10);
-    press(QApplication::activePopupWidget(), Qt::Key_Escape);
-    EXPECT_TRUE(bar->hasFocus()) << "the arrows go from menu to menu";
-    press(bar, Qt::Key_Escape);
-    EXPECT_TRUE(map()->hasFocus());
 }
 
 TEST_F(MainWindow, HasItsNormalLayout)

@@ -1,11 +1,16 @@
 #include "windows/map_fixture.h"
 
+#include <QApplication>
+#include <QMenuBar>
+
 namespace torvane::testing {
 namespace {
 
 /// What the mouse does on the map, done by its keys.
 class MapKeys : public MapFixture
 {
+protected:
+    QMenuBar* menuBar() { return control<QMenuBar>(main(), QStringLiteral("menuBar")); }
 };
 
 TEST_F(MapKeys, PlaceADivision)
@@ -104,6 +109,26 @@ TEST_F(MapKeys, HideTheHelpTagsAsAMoveOfTheMouse)
     tag->show();
     press(map(), Qt::Key_Right, Qt::ControlModifier);
     EXPECT_FALSE(tag->isVisible());
+}
+
+// Whatever is chosen, the keys that follow are meant for the map.
+TEST_F(MapKeys, AreStillTheMapsWhenF10HasOpenedTheMenus)
+{
+    startPastSplash();
+    press(map(), Qt::Key_F10);
+    EXPECT_EQ(menuBar()->activeAction(), entry("File"));
+    EXPECT_EQ(main().focusWidget(), map());
+    press(QApplication::activePopupWidget(), Qt::Key_Escape);
+    EXPECT_TRUE(menuBar()->hasFocus()) << "the arrows go from menu to menu";
+    press(menuBar(), Qt::Key_Escape);
+    EXPECT_TRUE(map()->hasFocus());
+}
+
+TEST_F(MapKeys, AreNotLostToAMenuBarThatIsNotInUse)
+{
+    startPastSplash();
+    menuBar()->setFocus();
+    EXPECT_TRUE(map()->hasFocus());
 }
 
 } // namespace
