@@ -22,7 +22,8 @@ struct FloodOptions
 {
     std::uint64_t seed = 1;
     std::int64_t events = 10000;
-    int paintEvery = 1;   ///< the windows are painted at each so-manieth event: most of a flood's time goes there
+    int paintEvery =
+        1; ///< the windows are painted at each so-manieth event: most of a flood's time goes there
     QString gameFiles;    ///< the staged ScenarioEditor folder, which is copied
     QString damagedFiles; ///< a folder of files that the load box offers beside the saved ones
 };
