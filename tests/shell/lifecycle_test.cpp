@@ -3,6 +3,8 @@
 #include "platform/number_text.h"
 #include "store/profile_keys.h"
 #include "store/side.h"
+#include "store/target_area.h"
+#include "store/units.h"
 #include "support/printers.h"
 
 #include <gmock/gmock.h>
