@@ -319,6 +319,8 @@ void OverviewFrm::onCloseBox()
 
 void OverviewFrm::leave()
 {
+    // Left ahead of its own activation it would take the next opening, also that of New, for a return.
+    m_returning = false;
     m_editor.mainFrm().setInputEnabled(true);
     hideForm();
 }

@@ -13,6 +13,21 @@ protected:
     QAction* entry(const char* name) { return main().menu().action(QLatin1StringView(name)); }
 };
 
+// A second click can come ahead of the activation that the first one brings.
+TEST_F(OverviewWindow, LeftRightBehindTheEnvironmentItIsStillFreshForTheNextNew)
+{
+    openNew();
+    saveOverview();
+    reopenOverview();
+    openEnvironment();
+    envButton("cmdOK")->click();
+    button("cmdOK")->click();
+    settle();
+    ASSERT_TRUE(main().isInputEnabled());
+    ASSERT_TRUE(chooseMenu(main(), QStringLiteral("mnuNew")));
+    EXPECT_FALSE(button("CmdCancel")->isEnabled());
+}
+
 struct Caption
 {
     const char* control;
