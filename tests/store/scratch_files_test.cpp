@@ -2,11 +2,11 @@
 
 #include "platform/runtime_error.h"
 #include "support/failing_system.h"
+#include "support/files_fixture.h"
 #include "support/printers.h"
 
 #include <QDir>
 #include <QFile>
-#include <QTemporaryDir>
 #include <QTemporaryFile>
 
 #include <gmock/gmock.h>
@@ -29,36 +29,11 @@ const QStringList killed{
 
 const QStringList editCopies{"ExisitTemp.bmm", "ShipRemove.bmm", "TempIniTemp.bmm"};
 
-class Scratch : public ::testing::Test
+class Scratch : public testing::FilesFixture
 {
 protected:
-    QString path(const QString& name) const { return m_folder.filePath(name); }
-
-    void put(const QString& name, const QByteArray& bytes = "x") const
-    {
-        QFile file(path(name));
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        ASSERT_EQ(file.write(bytes), bytes.size());
-    }
-
-    QByteArray bytesOf(const QString& name) const
-    {
-        QFile file(path(name));
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(not there)");
-    }
-
-    /// In plain alphabetical order.
-    QStringList names() const
-    {
-        QStringList list =
-            QDir(m_folder.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
-        list.sort();
-        return list;
-    }
-
-    QTemporaryDir m_folder;
     ProfileStore store;
-    ScratchFiles files{store, m_folder.path() + '/'};
+    ScratchFiles files{store, folder() + '/'};
 };
 
 class KillFiles : public Scratch
@@ -70,7 +45,7 @@ class RemoveLeftovers : public Scratch
 
 TEST_F(Scratch, FilesHaveTheirNamesInTheWorkFolder)
 {
-    EXPECT_EQ(files.workDir(), m_folder.path() + '/');
+    EXPECT_EQ(files.workDir(), folder() + '/');
     EXPECT_EQ(files.divisionFile(Side::Blue, 1), path("DivisionA1.txt"));
     EXPECT_EQ(files.divisionFile(Side::Red, 6), path("DivisionB6.txt"));
     EXPECT_EQ(files.divDataFile(Side::Blue, 2), path("DivDataA2.txt"));
@@ -84,7 +59,7 @@ TEST_F(Scratch, FilesHaveTheirNamesInTheWorkFolder)
 
 TEST_F(Scratch, AFolderWithoutASlashAtItsEndIsTheSameFolder)
 {
-    const ScratchFiles same(store, m_folder.path());
+    const ScratchFiles same(store, folder());
     EXPECT_EQ(same.shipTrack(), files.shipTrack());
 }
 
@@ -201,7 +176,7 @@ TEST_F(KillFiles, StopsWithAnErrorAtTheFirstFileThatCannotBeDeleted)
 {
     put("DivisionA1.txt");
     put("ShipTrack.bmm");
-    ASSERT_TRUE(QDir(m_folder.path()).mkdir("DivDataB3.txt"));
+    ASSERT_TRUE(QDir(folder()).mkdir("DivDataB3.txt"));
     try {
         files.killFiles();
         ADD_FAILURE() << "no error";
@@ -214,7 +189,7 @@ TEST_F(KillFiles, StopsWithAnErrorAtTheFirstFileThatCannotBeDeleted)
 
 TEST_F(KillFiles, AFolderInPlaceOfTheWorkingProfileIsAnError)
 {
-    ASSERT_TRUE(QDir(m_folder.path()).mkdir("iniTemp.bmm"));
+    ASSERT_TRUE(QDir(folder()).mkdir("iniTemp.bmm"));
     EXPECT_THROW(files.killFiles(), RuntimeError);
 }
 
@@ -222,7 +197,7 @@ TEST_F(KillFiles, WithoutPermissionIsAnError)
 {
     put("DivisionA1.txt");
     {
-        const testing::ReadOnlyFolder readOnly(m_folder.path());
+        const testing::ReadOnlyFolder readOnly(folder());
         EXPECT_THROW(files.killFiles(), RuntimeError);
     }
     EXPECT_EQ(names(), QStringList{"DivisionA1.txt"});
@@ -294,8 +269,8 @@ TEST_F(RemoveLeftovers, DeletesWhatWasBeingWrittenAndWhatTriedTheFolder)
 
 TEST_F(RemoveLeftovers, AFileThatCannotBeDeletedStaysAndTheOthersGo)
 {
-    ASSERT_TRUE(QDir(m_folder.path()).mkdir("ShipRemove.bmm"));
-    ASSERT_TRUE(QDir(m_folder.path()).mkdir("TempIniTemp.bmm"));
+    ASSERT_TRUE(QDir(folder()).mkdir("ShipRemove.bmm"));
+    ASSERT_TRUE(QDir(folder()).mkdir("TempIniTemp.bmm"));
     put("ExisitTemp.bmm");
     put("iniTemp.bmm.aZ09bY");
     EXPECT_NO_THROW(files.removeLeftovers());
