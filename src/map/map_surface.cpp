@@ -115,12 +115,14 @@ bool MapBox::takePointerKey(const QKeyEvent& event)
         movePointerBy(direction * (event.modifiers().testFlag(Qt::ShiftModifier) ? largeStep : 1));
         return true;
     }
-    if (event.key() != Qt::Key_Space && event.key() != Qt::Key_Return && event.key() != Qt::Key_Enter) {
+    const bool right = event.key() == Qt::Key_Backspace;
+    if (!right && event.key() != Qt::Key_Space && event.key() != Qt::Key_Return &&
+        event.key() != Qt::Key_Enter) {
         return false;
     }
     if (!event.isAutoRepeat()) {
         Q_EMIT clickKeyTyped(event.text());
-        clickAtPointer();
+        clickAtPointer(right ? Qt::RightButton : Qt::LeftButton);
     }
     return true;
 }
@@ -142,10 +144,10 @@ void MapBox::movePointerBy(QPointF pixels)
 }
 
 // A click follows a move, which takes the anchor.
-void MapBox::clickAtPointer()
+void MapBox::clickAtPointer(Qt::MouseButton mouseButton)
 {
     movePointerBy({});
-    Q_EMIT pressed(Qt::LeftButton, pointer());
+    Q_EMIT pressed(mouseButton, pointer());
 }
 
 void MapBox::mousePressEvent(QMouseEvent* event)

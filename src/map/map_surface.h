@@ -31,7 +31,7 @@ public:
 Q_SIGNALS:
     /// A key that gives a character.
     void typed(const QString& character);
-    /// Space or Enter; a move to the pointer and a press follow.
+    /// Space, Enter or Backspace; a move to the pointer and a press follow.
     void clickKeyTyped(const QString& character);
     void pressed(Qt::MouseButton button, QPointF position);
     void moved(QPointF position);
@@ -48,7 +48,7 @@ protected:
 private:
     bool takePointerKey(const QKeyEvent& event);
     void movePointerBy(QPointF pixels);
-    void clickAtPointer();
+    void clickAtPointer(Qt::MouseButton mouseButton);
     QPointF pointer() const;
 
     QScrollBar* m_horizontal = nullptr;

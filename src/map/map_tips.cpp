@@ -41,9 +41,9 @@ constexpr std::array<CaptionRow, 3> mapNames{{
 constexpr std::array<CaptionRow, 10> mapDescriptions{{
     {"Picture_Main"_L1,
      {"The sea with the ships of both forces; divisions, target and line are placed on it by a click or by "
-      "Ctrl with the arrows and Space",
+      "Ctrl with the arrows and Space; Backspace gives up a division that waits",
       "Die See mit den Schiffen beider Streitkräfte; Verbände, Ziel und Linie setzt ein Klick darauf oder "
-      "Strg mit den Pfeilen und die Leertaste"}},
+      "Strg mit den Pfeilen und die Leertaste; die Rücktaste bricht das Setzen eines Verbands ab"}},
     {"cmdGridLevel"_L1, {"Sets the size of the map's grid", "Stellt die Größe des Rasters ein"}},
     {"cmdZoomLevel"_L1, {"Sets how much sea the map shows", "Stellt ein, wie viel See die Karte zeigt"}},
     {"cmdNameTog"_L1,

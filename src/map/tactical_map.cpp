@@ -306,7 +306,7 @@ void TacticalMap::keyTyped(const QString& character)
 }
 
 // Any redraw places an armed target area. This one leaves that to the click that follows, which draws the map
-// anew itself.
+// anew itself; behind a right click, which places and draws nothing, the next redraw shows all.
 void TacticalMap::clickKeyTyped(const QString& character)
 {
     if (m_state.target.armed) {

@@ -35,6 +35,23 @@ TEST_F(MapKeys, PlaceADivision)
     EXPECT_EQ(lastPlacement(), QStringLiteral("24720 X 12300"));
 }
 
+TEST_F(MapKeys, BackspaceGivesUpADivisionThatWaitsAndLeavesTargetAndLine)
+{
+    startPastSplash();
+    awaitClick();
+    const QString before = position(0, 0);
+    armTargetArea();
+    press(map(), Qt::Key_Right, Qt::ControlModifier);
+    press(map(), Qt::Key_Backspace);
+    EXPECT_EQ(valueOf(main().ChkPlotDiv), 0);
+    EXPECT_EQ(position(0, 0), before);
+    EXPECT_EQ(pointer(), Qt::ArrowCursor) << "as behind a right click";
+    EXPECT_TRUE(state().target.armed);
+    press(map(), Qt::Key_Space);
+    EXPECT_EQ(position(0, 0), before) << "nothing waits any more";
+    EXPECT_FALSE(state().target.armed);
+}
+
 TEST_F(MapKeys, StartWhereTheMouseIsAndStayOnTheMap)
 {
     startPastSplash();
@@ -61,10 +78,10 @@ TEST_F(MapKeys, ShowThePointerOnTheMapUntilTheMouseMoves)
     EXPECT_EQ(map()->grab().toImage(), before);
 }
 
-TEST_F(MapKeys, SpaceAndEnterBringAllRingsBackAsAnyOtherKey)
+TEST_F(MapKeys, SpaceEnterAndBackspaceBringAllRingsBackAsAnyOtherKey)
 {
     startPastSplash();
-    for (const Qt::Key key : {Qt::Key_Space, Qt::Key_Return, Qt::Key_Enter}) {
+    for (const Qt::Key key : {Qt::Key_Space, Qt::Key_Return, Qt::Key_Enter, Qt::Key_Backspace}) {
         press(map(), Qt::Key_B);
         ASSERT_EQ(state().toggles.ringFilterOn, -1);
         press(map(), key);
