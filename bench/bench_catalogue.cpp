@@ -1,3 +1,4 @@
+#include "measured.h"
 #include "platform/text_files.h"
 #include "ship_selection/ship_record.h"
 #include "store/profile_keys.h"
@@ -159,11 +160,6 @@ void findTheLengthOfAClass(benchmark::State& state)
 }
 BENCHMARK(findTheLengthOfAClass);
 
-int shipsOf(const benchmark::State& state)
-{
-    return static_cast<int>(state.range(0));
-}
-
 /// A tenth of the catalogue, all of it and ten of it.
 void catalogueSizes(benchmark::internal::Benchmark* benchmark)
 {
@@ -173,7 +169,7 @@ void catalogueSizes(benchmark::internal::Benchmark* benchmark)
 
 void floorReadTheCataloguesBytes(benchmark::State& state)
 {
-    const WorkFolder work(shipsOf(state));
+    const WorkFolder work(argumentOf(state));
     for (auto _ : state) {
         benchmark::DoNotOptimize(readWholeFile(work.folder.filePath(shipDatabaseFile)));
     }
@@ -182,10 +178,10 @@ BENCHMARK(floorReadTheCataloguesBytes)->Apply(catalogueSizes);
 
 void openShipsAndClasses(benchmark::State& state)
 {
-    const WorkFolder work(shipsOf(state));
+    const WorkFolder work(argumentOf(state));
     for (auto _ : state) {
         ShipCatalogue catalogue(work.controls);
-        catalogue.shipToClass(shipName(shipsOf(state) - 1));
+        catalogue.shipToClass(shipName(argumentOf(state) - 1));
     }
 }
 BENCHMARK(openShipsAndClasses)->Apply(catalogueSizes);

@@ -1,3 +1,4 @@
+#include "measured.h"
 #include "overview/overview_frm.h"
 #include "platform/code_page.h"
 #include "platform/text_files.h"
@@ -17,8 +18,6 @@
 #include <QTemporaryDir>
 
 #include <benchmark/benchmark.h>
-
-#include <unistd.h>
 
 using namespace torvane;
 
@@ -117,11 +116,6 @@ public:
     Editor editor{m_folder.path(), {.language = Language::English}, m_services.services()};
 };
 
-int shipsOf(const benchmark::State& state)
-{
-    return static_cast<int>(state.range(0));
-}
-
 void shipCounts(benchmark::internal::Benchmark* benchmark)
 {
     benchmark->ArgName("ships")->Arg(1)->Arg(10)->Arg(usualShips)->Arg(100);
@@ -132,7 +126,7 @@ void shipCounts(benchmark::internal::Benchmark* benchmark)
 /// Nothing is synced.
 void floorOfTheSameFiles(benchmark::State& state)
 {
-    Run run(shipsOf(state));
+    Run run(argumentOf(state));
     run.load();
     std::vector<std::pair<QString, QByteArray>> files;
     for (const QString& name : run.scratchFiles()) {
@@ -153,7 +147,7 @@ void floorOfTheSameFiles(benchmark::State& state)
 
 void floorOfTheOverviewAlone(benchmark::State& state)
 {
-    Run run(shipsOf(state));
+    Run run(argumentOf(state));
     for (auto _ : state) {
         run.openOverview();
         state.PauseTiming();
@@ -164,7 +158,7 @@ void floorOfTheOverviewAlone(benchmark::State& state)
 
 void load(benchmark::State& state)
 {
-    Run run(shipsOf(state));
+    Run run(argumentOf(state));
     for (auto _ : state) {
         run.load();
         state.PauseTiming();
@@ -174,13 +168,6 @@ void load(benchmark::State& state)
         run.closeOverview();
         state.ResumeTiming();
     }
-}
-
-double residentKilobytes()
-{
-    QFile file(QStringLiteral("/proc/self/statm"));
-    const QByteArray numbers = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    return numbers.split(' ').value(1).toDouble() * static_cast<double>(::sysconf(_SC_PAGESIZE)) / 1024;
 }
 
 /// One run in which the scenario is loaded and saved a thousand times.
@@ -201,11 +188,11 @@ void loadAndSaveAThousandTimes(benchmark::State& state)
                 break;
             }
             if (i == 100) {
-                early = residentKilobytes();
+                early = residentBytes() / 1024;
             }
         }
         state.counters["kB at 100"] = early;
-        state.counters["kB at 1000"] = residentKilobytes();
+        state.counters["kB at 1000"] = residentBytes() / 1024;
         state.counters["boxes"] = static_cast<double>(run.boxes().size());
     }
 }

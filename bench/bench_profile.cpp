@@ -1,3 +1,4 @@
+#include "measured.h"
 #include "platform/code_page.h"
 #include "platform/profile.h"
 #include "platform/profile_store.h"
@@ -91,11 +92,6 @@ void readCounts(benchmark::internal::Benchmark* benchmark)
     benchmark->Unit(benchmark::kMicrosecond);
 }
 
-int sizeOf(const benchmark::State& state)
-{
-    return static_cast<int>(state.range(0));
-}
-
 struct Name
 {
     QString section;
@@ -135,7 +131,7 @@ private:
 
 void floorMemchrOverLines(benchmark::State& state)
 {
-    const QByteArray bytes = scenario(sizeOf(state));
+    const QByteArray bytes = scenario(argumentOf(state));
     for (auto _ : state) {
         int lines = 0;
         const char* at = bytes.begin();
@@ -152,10 +148,10 @@ BENCHMARK(floorMemchrOverLines)->Apply(parsedSizes);
 /// With a look-up in every section, so that no work is put off.
 void parseAndLookIntoEachSection(benchmark::State& state)
 {
-    const QByteArray bytes = scenario(sizeOf(state));
+    const QByteArray bytes = scenario(argumentOf(state));
     std::vector<QByteArray> sections;
     for (int n = 0; n < divisionSections; ++n) {
-        for (int m = 0; m < sizeOf(state); ++m) {
+        for (int m = 0; m < argumentOf(state); ++m) {
             sections.push_back(toCodePage(shipSection(n, m)));
         }
     }
@@ -235,7 +231,7 @@ void floorHashLookUps(benchmark::State& state)
 {
     QHash<QString, QString> values;
     std::vector<QString> keys;
-    for (const Name& name : randomNames(sizeOf(state))) {
+    for (const Name& name : randomNames(argumentOf(state))) {
         keys.push_back(name.section + u'/' + name.key);
         values.insert(keys.back(), QStringLiteral("100"));
     }
@@ -250,7 +246,7 @@ BENCHMARK(floorHashLookUps)->Apply(readCounts);
 void readKeysInABatch(benchmark::State& state)
 {
     const FileOnDisk file(readFile());
-    const std::vector<Name> names = randomNames(sizeOf(state));
+    const std::vector<Name> names = randomNames(argumentOf(state));
     ProfileStore store;
     for (auto _ : state) {
         const ProfileStore::Batch batch(store);
@@ -266,7 +262,7 @@ void floorLooksAtTheDisk(benchmark::State& state)
     const FileOnDisk file(readFile());
     const QByteArray path = QFile::encodeName(file.path());
     for (auto _ : state) {
-        for (int i = 0; i < sizeOf(state); ++i) {
+        for (int i = 0; i < argumentOf(state); ++i) {
             struct statx status = {};
             benchmark::DoNotOptimize(::statx(AT_FDCWD, path.constData(), 0, STATX_BASIC_STATS, &status));
         }
@@ -277,7 +273,7 @@ BENCHMARK(floorLooksAtTheDisk)->Apply(readCounts);
 void readKeysWithoutABatch(benchmark::State& state)
 {
     const FileOnDisk file(readFile());
-    const std::vector<Name> names = randomNames(sizeOf(state));
+    const std::vector<Name> names = randomNames(argumentOf(state));
     ProfileStore store;
     for (auto _ : state) {
         for (const Name& name : names) {

@@ -7,6 +7,7 @@
 #include "map/map_surface.h"
 #include "map/range_rings.h"
 #include "map/zoom_level_frm.h"
+#include "measured.h"
 #include "overview/enviro_frm.h"
 #include "platform/option_button.h"
 #include "platform/picture_box.h"
@@ -19,14 +20,12 @@
 
 #include <QApplication>
 #include <QDir>
-#include <QFile>
 #include <QTemporaryDir>
 
 #include <benchmark/benchmark.h>
 
 #include <algorithm>
 #include <array>
-#include <unistd.h>
 #include <variant>
 
 using namespace torvane;
@@ -202,51 +201,42 @@ void redraw(benchmark::State& state, RunWithShips& run)
 
 void floorOfRings(benchmark::State& state)
 {
-    RunWithShips run(32, withRings, static_cast<int>(state.range(0)));
+    RunWithShips run(32, withRings, argumentOf(state));
     floorTheSameMarks(state, run);
 }
 
 void redrawRings(benchmark::State& state)
 {
-    RunWithShips run(32, withRings, static_cast<int>(state.range(0)));
+    RunWithShips run(32, withRings, argumentOf(state));
     redraw(state, run);
 }
 
 // The training of each ship counts then.
 void floorOfRingsByNight(benchmark::State& state)
 {
-    RunWithShips run(32, withRings, static_cast<int>(state.range(0)), !byDay);
+    RunWithShips run(32, withRings, argumentOf(state), !byDay);
     floorTheSameMarks(state, run);
 }
 
 void redrawRingsByNight(benchmark::State& state)
 {
-    RunWithShips run(32, withRings, static_cast<int>(state.range(0)), !byDay);
+    RunWithShips run(32, withRings, argumentOf(state), !byDay);
     redraw(state, run);
 }
 
 void floorOfShips(benchmark::State& state)
 {
-    RunWithShips run(static_cast<int>(state.range(0)), !withRings, levelFive);
+    RunWithShips run(argumentOf(state), !withRings, levelFive);
     floorTheSameMarks(state, run);
 }
 
 void redrawShips(benchmark::State& state)
 {
-    RunWithShips run(static_cast<int>(state.range(0)), !withRings, levelFive);
+    RunWithShips run(argumentOf(state), !withRings, levelFive);
     redraw(state, run);
 }
 
 /// Resident memory of this process in bytes.
-double residentBytes()
-{
-    QFile file(QStringLiteral("/proc/self/statm"));
-    if (!file.open(QIODevice::ReadOnly)) {
-        return 0;
-    }
-    return file.readAll().split(' ').value(1).toDouble() * static_cast<double>(::sysconf(_SC_PAGESIZE));
-}
-
 /// What 1,000 redraws leave, after the first hundred have filled what is kept.
 void thousandRedraws(benchmark::State& state)
 {
@@ -270,7 +260,7 @@ void circle(benchmark::State& state)
     PictureBox picture;
     picture.resize(625, 417);
     picture.show();
-    const auto radius = static_cast<int>(state.range(0));
+    const auto radius = argumentOf(state);
     const QPoint centre = radius <= 200 ? QPoint(312, 208) : QPoint(312 - radius, 208);
     for (auto _ : state) {
         const PictureBox::Batch batch(picture);

@@ -1,3 +1,4 @@
+#include "measured.h"
 #include "platform/code_page.h"
 #include "platform/profile_store.h"
 #include "platform/text_files.h"
@@ -59,14 +60,9 @@ private:
     WorkingProfile m_profile{m_store, m_folder.path()};
 };
 
-int shipsOf(const benchmark::State& state)
-{
-    return static_cast<int>(state.range(0));
-}
-
 void floorQSaveFileOfTheSameBytes(benchmark::State& state)
 {
-    const SavedScenario scenario(shipsOf(state));
+    const SavedScenario scenario(argumentOf(state));
     const QByteArray bytes = readWholeFile(scenario.file());
     for (auto _ : state) {
         QSaveFile file(scenario.file());
@@ -79,7 +75,7 @@ void floorQSaveFileOfTheSameBytes(benchmark::State& state)
 
 void floorWriteWholeFileOfTheSameBytes(benchmark::State& state)
 {
-    const SavedScenario scenario(shipsOf(state));
+    const SavedScenario scenario(argumentOf(state));
     const QByteArray bytes = readWholeFile(scenario.file());
     for (auto _ : state) {
         writeWholeFile(scenario.file(), bytes);
@@ -89,7 +85,7 @@ void floorWriteWholeFileOfTheSameBytes(benchmark::State& state)
 /// As one event does it: the profile, unchanged since the event before, read from memory.
 void save(benchmark::State& state)
 {
-    SavedScenario scenario(shipsOf(state));
+    SavedScenario scenario(argumentOf(state));
     for (auto _ : state) {
         const ProfileStore::Batch batch(scenario.store());
         saveINIfile(scenario.file(), scenario.profile(), target, u"Force A");
@@ -98,7 +94,7 @@ void save(benchmark::State& state)
 
 void saveWithoutTheDisk(benchmark::State& state)
 {
-    SavedScenario scenario(shipsOf(state));
+    SavedScenario scenario(argumentOf(state));
     for (auto _ : state) {
         const ProfileStore::Batch batch(scenario.store());
         benchmark::DoNotOptimize(scenarioBytes(scenario.profile(), target, u"Force A"));

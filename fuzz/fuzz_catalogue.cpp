@@ -1,5 +1,6 @@
 #include "platform/runtime_error.h"
 #include "platform/text_files.h"
+#include "require.h"
 #include "store/data_controls.h"
 #include "store/ship_catalogue.h"
 
@@ -8,21 +9,12 @@
 #include <QFileInfo>
 #include <QTemporaryDir>
 
-#include <cstdlib>
-
 // The input is the file of the ship catalogue. Every table is opened, walked and searched, as the editor
 // does.
 
 namespace {
 
 using namespace torvane;
-
-void require(bool holds)
-{
-    if (!holds) {
-        std::abort();
-    }
-}
 
 /// SQLite's driver wants an application; a work folder lies in memory, where the system has one.
 struct Run

@@ -1,21 +1,14 @@
 #include "platform/code_page.h"
+#include "require.h"
 #include "store/scratch_files.h"
 
 #include <algorithm>
-#include <cstdlib>
 
 // The input is a file of quoted lines, as the scratch files of divisions and ships are.
 
 namespace {
 
 using namespace torvane;
-
-void require(bool holds)
-{
-    if (!holds) {
-        std::abort();
-    }
-}
 
 bool isOneLine(const QString& value)
 {

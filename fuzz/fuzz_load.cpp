@@ -1,12 +1,14 @@
 #include "platform/code_page.h"
 #include "platform/runtime_error.h"
 #include "platform/text_files.h"
+#include "require.h"
 #include "scenario_file/load_scenario.h"
 #include "scenario_file/save_scenario.h"
 #include "scenario_file/scenario_format.h"
 #include "shell/commands.h"
 #include "shell/loaded_forces.h"
 #include "shell/main_menu.h"
+#include "store/force_sizes.h"
 #include "store/working_profile.h"
 
 #include <QAction>
@@ -16,7 +18,6 @@
 #include <QTemporaryDir>
 
 #include <algorithm>
-#include <cstdlib>
 #include <memory>
 #include <optional>
 
@@ -25,13 +26,6 @@
 namespace {
 
 using namespace torvane;
-
-void require(bool holds)
-{
-    if (!holds) {
-        std::abort();
-    }
-}
 
 /// The real main menu. Checks that what reaches it is in order, and that it shows what came.
 class CheckedMenus : public ForceMenus

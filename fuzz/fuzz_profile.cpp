@@ -1,7 +1,7 @@
 #include "platform/profile.h"
 #include "platform/runtime_error.h"
+#include "require.h"
 
-#include <cstdlib>
 #include <optional>
 
 // The input is section, key, value and file, with a record separator (0x1E) between them.
@@ -10,13 +10,6 @@ namespace {
 
 using torvane::Profile;
 using torvane::RuntimeError;
-
-void require(bool holds)
-{
-    if (!holds) {
-        std::abort();
-    }
-}
 
 QByteArray upTo(QByteArrayView& rest, char separator)
 {

@@ -12,6 +12,7 @@
 #include "shell/commands.h"
 #include "shell/editor.h"
 #include "shell/main_frm.h"
+#include "store/force_sizes.h"
 #include "store/units.h"
 #include "ui_create_division_frm.h"
 
@@ -23,7 +24,6 @@ namespace torvane {
 
 namespace {
 
-constexpr int divisionLimit = DivisionRecords::divisionsPerSide;
 constexpr int buttonMargin = 16;
 
 void setGround(QWidget* widget, const QColor& ground, const QColor& ink)
@@ -136,7 +136,7 @@ void CreateDivisionFrm::fixSizes()
     const QFontMetrics metrics(m_ui->PicDivName->font());
     int width = 0;
     for (const Language language : {Language::English, Language::German}) {
-        width = std::max(width, metrics.horizontalAdvance(divisionLabel(divisionLimit, language)));
+        width = std::max(width, metrics.horizontalAdvance(divisionLabel(divisionsPerSide, language)));
     }
     m_ui->PicDivName->setFixedSize(width + metrics.averageCharWidth(), metrics.height());
 }
@@ -204,7 +204,7 @@ bool CreateDivisionFrm::beginCreation()
     DivisionRecords& records = m_editor.divisionRecords();
     records.countDivision(side(), 1);
     const int count = side() == Side::Blue ? records.blueDivCount() : records.redDivCount();
-    if (count > divisionLimit) {
+    if (count > divisionsPerSide) {
         refuseDivision();
         return false;
     }
@@ -223,7 +223,7 @@ void CreateDivisionFrm::refuseDivision()
     DivisionRecords& records = m_editor.divisionRecords();
     cancelSub();
     const int count = side() == Side::Blue ? records.blueDivCount() : records.redDivCount();
-    records.countDivision(side(), divisionLimit - count);
+    records.countDivision(side(), divisionsPerSide - count);
 }
 
 void CreateDivisionFrm::resetDialogForNewDivision()
@@ -244,7 +244,7 @@ void CreateDivisionFrm::beginEdit()
         return;
     }
     setValue(findChild<QCheckBox*>(QLatin1StringView(chosen->marker)), 0);
-    const int number = static_cast<int>(chosen - rows.begin()) % divisionLimit + 1;
+    const int number = static_cast<int>(chosen - rows.begin()) % divisionsPerSide + 1;
     const QString name = divisionLabel(number, Language::English);
     clearGrid();
     showName(name, divisionLabel(number, m_editor.language()));

@@ -10,6 +10,7 @@
 #include "platform/svg_picture.h"
 #include "shell/editor.h"
 #include "ship_selection/ship_dbase_frm.h"
+#include "store/force_sizes.h"
 #include "ui_create_division_frm.h"
 
 #include <QHeaderView>
@@ -208,7 +209,7 @@ void CreateDivisionFrm::makeGrid()
     }
     grid->verticalHeader()->setDefaultSectionSize(rowHeight);
     grid->verticalHeader()->setMinimumSectionSize(rowHeight);
-    grid->setFixedSize(width, DivisionRecords::gridRows * rowHeight + 2 * grid->frameWidth());
+    grid->setFixedSize(width, shipsPerDivision * rowHeight + 2 * grid->frameWidth());
     // Disabled it is still read.
     QPalette colors = grid->palette();
     for (const QPalette::ColorRole role : {QPalette::Text, QPalette::Base, QPalette::AlternateBase}) {
@@ -244,7 +245,7 @@ void CreateDivisionFrm::fillGrid(const QStringList& lines, const QList<int>& fla
                                .arg(m_ui->lblDivName->text()));
     }
     grid->clearContents();
-    const int rows = std::max(DivisionRecords::gridRows, static_cast<int>(lines.size()));
+    const int rows = std::max(shipsPerDivision, static_cast<int>(lines.size()));
     grid->setRowCount(rows);
     for (int row = 0; row < rows; ++row) {
         auto* flag = new QTableWidgetItem(flagshipRows.contains(row) ? flagMark : QString());
@@ -268,7 +269,7 @@ QStringList CreateDivisionFrm::gridShips() const
 
 std::optional<int> CreateDivisionFrm::flagshipRow() const
 {
-    for (int row = 0; row < DivisionRecords::gridRows; ++row) {
+    for (int row = 0; row < shipsPerDivision; ++row) {
         if (cell(row, flagColumn) == flagMark) {
             return row;
         }
@@ -304,7 +305,7 @@ void CreateDivisionFrm::pickFlagship(int row)
     if (row < 0 || cell(row, shipColumn).isEmpty()) {
         return;
     }
-    for (int other = 0; other < DivisionRecords::gridRows; ++other) {
+    for (int other = 0; other < shipsPerDivision; ++other) {
         setCell(other, flagColumn, QString());
     }
     setCell(row, flagColumn, flagMark);
@@ -322,8 +323,7 @@ void CreateDivisionFrm::openShips()
 {
     ShipDBaseFrm& ships = m_editor.shipDBaseFrm();
     setValue(chkReturnFlag, 1);
-    setInputEnabled(false);
-    ships.showForm(this);
+    ships.openOver(*this);
 }
 
 // What Enter does, and where the focus goes: out of a job that failed; else the ships first, then the

@@ -92,8 +92,7 @@ void CreateDivisionFrm::leave()
 {
     // A click or close box that is still on its way must not leave, and count, a second time.
     setInputEnabled(false);
-    m_editor.mainFrm().setInputEnabled(true);
-    hideForm();
+    leaveTo(m_editor.mainFrm());
     setValue(chkReturnFlag, 0);
     setValue(m_editor.mainFrm().ChkPlotDiv, 0);
 }

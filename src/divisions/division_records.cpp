@@ -4,6 +4,7 @@
 #include "platform/text_files.h"
 #include "ship_selection/ship_line.h"
 #include "ship_selection/ship_record.h"
+#include "store/force_sizes.h"
 #include "store/profile_keys.h"
 
 namespace torvane {
@@ -103,7 +104,7 @@ void DivisionRecords::writeDivisionCount(const QString& fallback)
 {
     const int count = m_blueDivCount + m_redDivCount;
     const QString text = count == 0 ? textOf(numberValue(fallback)) : QString::number(count);
-    m_profile.write(u"SCENARIOINFO", u"DIVISIONCNT", text);
+    m_profile.write(scenarioInfoSection, divisionCountKey, text);
 }
 
 QStringList DivisionRecords::listOf(Side side, int number) const
@@ -146,7 +147,7 @@ void DivisionRecords::writeKeys(const QString& section, const DivisionVars& vars
     m_profile.write(section, u"FORMATIONSPACING ", vars.spacing);
     m_profile.write(section, u"SPEED ", vars.speed);
     m_profile.write(section, u"SHIPCNT ", QString::number(ships));
-    if (fields.flagshipRow && *fields.flagshipRow >= 0 && *fields.flagshipRow < gridRows) {
+    if (fields.flagshipRow && *fields.flagshipRow >= 0 && *fields.flagshipRow < shipsPerDivision) {
         m_profile.write(section, u"FLAGSHIPINDEX ", QString::number(*fields.flagshipRow));
     }
     m_profile.write(section, u"ENCUMBERED", fields.encumbered ? u"1" : u"0");

@@ -73,9 +73,6 @@ DivisionVars divisionDefaults(Language language);
 class DivisionRecords
 {
 public:
-    static constexpr int divisionsPerSide = 6;
-    static constexpr int gridRows = 10;
-
     /// Everything handed in outlives the object.
     DivisionRecords(ProfileStore& store, WorkingProfile& profile, ScratchFiles& files, ShipRecords& ships);
 

@@ -2,6 +2,7 @@
 
 #include "overview/typed_values.h"
 #include "platform/number_text.h"
+#include "store/profile_keys.h"
 #include "store/working_profile.h"
 
 namespace torvane {
@@ -45,10 +46,10 @@ PixelOffset pictureCentre(int width, int height)
 
 std::optional<Side> transportingForce(const WorkingProfile& profile)
 {
-    if (numberValue(profile.GetIniKey(u"SCENARIODATA", u"DDTRANSPORTS")) != 1) {
+    if (numberValue(profile.GetIniKey(scenarioDataSection, u"DDTRANSPORTS")) != 1) {
         return std::nullopt;
     }
-    const QString blueForceType = profile.GetIniKey(u"SCENARIODATA", u"BLUE_FORCE_TYPE");
+    const QString blueForceType = profile.GetIniKey(scenarioDataSection, u"BLUE_FORCE_TYPE");
     if (blueForceType == u"0") {
         return Side::Blue;
     }

@@ -4,6 +4,7 @@
 #include "map/map_view.h"
 #include "platform/number_text.h"
 #include "platform/runtime_error.h"
+#include "store/force_sizes.h"
 #include "store/profile_keys.h"
 #include "store/ship_catalogue.h"
 #include "store/side.h"
@@ -15,7 +16,7 @@ namespace torvane {
 
 namespace {
 
-constexpr int places = FormationPlacement::places;
+constexpr int places = shipsPerDivision;
 
 /// A row a count of ships, a column a place. The rows of 8 and 10 ships are uneven. Kept.
 constexpr std::array<std::array<const char*, places>, places> convoyTable{{

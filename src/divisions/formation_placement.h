@@ -57,9 +57,6 @@ struct DivisionToPlace
 class FormationPlacement
 {
 public:
-    /// The most ships a division can have.
-    static constexpr int places = 10;
-
     /// Everything handed in outlives the object.
     FormationPlacement(WorkingProfile& profile, ShipCatalogue& catalogue, ViewState& view);
 

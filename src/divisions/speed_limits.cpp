@@ -4,6 +4,7 @@
 #include "platform/number_text.h"
 #include "platform/runtime_error.h"
 #include "ship_selection/ship_line.h"
+#include "store/force_sizes.h"
 #include "store/ship_catalogue.h"
 
 #include <algorithm>
@@ -31,17 +32,17 @@ double topSpeed(const QString& line, ShipCatalogue& catalogue)
 
 int seaStateSpeed(double seaState, const QString& type)
 {
-    const auto* const column = std::ranges::find(speedTypes, type);
+    const auto* const column = std::ranges::find(shipTypes, type);
     if (!(seaState >= 1 && seaState <= static_cast<double>(seaStateSpeedTable.size()))) {
         throw RuntimeError(RuntimeError::SubscriptOutOfRange,
                            QStringLiteral("Subscript out of range: sea state %1").arg(textOf(seaState)));
     }
-    if (column == speedTypes.end()) {
+    if (column == shipTypes.end()) {
         throw RuntimeError(RuntimeError::SubscriptOutOfRange,
                            QStringLiteral("Subscript out of range: ship type \"%1\"").arg(type));
     }
     const auto row = static_cast<std::size_t>(seaState) - 1;
-    return seaStateSpeedTable.at(row).at(static_cast<std::size_t>(column - speedTypes.begin()));
+    return seaStateSpeedTable.at(row).at(static_cast<std::size_t>(column - shipTypes.begin()));
 }
 
 double highestSpeed(const DivisionSpeeds& division, ShipCatalogue& catalogue)

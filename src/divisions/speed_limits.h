@@ -1,5 +1,7 @@
 #pragma once
 
+#include "store/force_sizes.h"
+
 #include <QString>
 #include <QStringList>
 #include <QStringView>
@@ -10,13 +12,8 @@ namespace torvane {
 
 class ShipCatalogue;
 
-/// The ship types in the order of the columns of `seaStateSpeedTable`.
-inline constexpr std::array<QLatin1StringView, 6> speedTypes{
-    QLatin1StringView{"BB"}, QLatin1StringView{"BC"}, QLatin1StringView{"CA"},
-    QLatin1StringView{"CL"}, QLatin1StringView{"DD"}, QLatin1StringView{"TR"}};
-
 /// Speed limits in knots: a row a sea state from 1, a column a ship type.
-inline constexpr std::array<std::array<int, 6>, 8> seaStateSpeedTable{{
+inline constexpr std::array<std::array<int, shipTypes.size()>, 8> seaStateSpeedTable{{
     {55, 55, 55, 55, 55, 40},
     {50, 50, 50, 50, 50, 35},
     {40, 40, 40, 40, 40, 30},

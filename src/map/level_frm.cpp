@@ -48,8 +48,7 @@ void LevelFrm::open(const QString& option)
     auto* button = findChild<OptionButton*>(option);
     button->setChecked(true);
     button->setFocus();
-    showForm(&m_editor.mainFrm());
-    m_editor.mainFrm().setInputEnabled(false);
+    openOver(m_editor.mainFrm());
 }
 
 // Also for an option that the program turns on before the dialog is seen.
@@ -73,8 +72,7 @@ void LevelFrm::onCloseBox()
 
 void LevelFrm::leave(int flag)
 {
-    m_editor.mainFrm().setInputEnabled(true);
-    hideForm();
+    leaveTo(m_editor.mainFrm());
     setValue(m_editor.mainFrm().*m_unloadFlag, flag);
 }
 

@@ -69,10 +69,9 @@ void appendFlagshipMarks(const PlottedShip& ship, const QString& label, const QS
 /// The number of "Division 1" to "Division 6", 0 for another name.
 int divisionNumber(const QString& name)
 {
-    constexpr QLatin1StringView word("Division ");
     const QChar digit = name.isEmpty() ? QChar() : name.back();
-    const bool known =
-        name.size() == word.size() + 1 && name.startsWith(word) && digit >= u'1' && digit <= u'6';
+    const bool known = name.size() == storedDivisionWord.size() + 1 && name.startsWith(storedDivisionWord) &&
+                       digit >= u'1' && digit <= u'6';
     return known ? digit.unicode() - u'0' : 0;
 }
 

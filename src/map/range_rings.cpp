@@ -3,6 +3,7 @@
 #include "platform/code_page.h"
 #include "platform/number_text.h"
 #include "platform/runtime_error.h"
+#include "store/force_sizes.h"
 #include "store/ship_catalogue.h"
 #include "store/working_profile.h"
 
@@ -58,13 +59,12 @@ QString textAt(const Profile& profile, const QByteArray& section, QByteArrayView
 int typeIndex(QStringView type)
 {
     const QString wanted = type.trimmed().toString().toUpper();
-    const auto* const found = std::ranges::find_if(
-        ringTypes, [&wanted](const char* each) { return wanted == QLatin1StringView(each); });
-    if (found == ringTypes.end()) {
+    const auto* const found = std::ranges::find(shipTypes, wanted);
+    if (found == shipTypes.end()) {
         throw RuntimeError(RuntimeError::SubscriptOutOfRange,
                            QStringLiteral("Subscript out of range: ship type \"%1\"").arg(type));
     }
-    return static_cast<int>(found - ringTypes.begin()) + 1;
+    return static_cast<int>(found - shipTypes.begin()) + 1;
 }
 
 std::int32_t rangeOf(const RangeTable& table, int type, int ringClass)

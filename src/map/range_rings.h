@@ -1,6 +1,7 @@
 #pragma once
 
 #include "map/map_plotting.h"
+#include "store/force_sizes.h"
 
 #include <QHash>
 #include <QLatin1StringView>
@@ -18,15 +19,13 @@ class Profile;
 class RecordSource;
 class ShipCatalogue;
 
-/// The types of ship by their index in the range tables, less 1.
-inline constexpr std::array<const char*, 6> ringTypes{"BB", "BC", "CA", "CL", "DD", "TR"};
-/// The index of a ship's type, 1 to 6; blanks round it and upper and lower case don't matter. Throws
-/// SubscriptOutOfRange for any other type.
+/// The index of a ship's type among `shipTypes`, 1 to 6; blanks round it and upper and lower case don't
+/// matter. Throws SubscriptOutOfRange for any other type.
 int typeIndex(QStringView type);
 
 /// Ranges in yards: a row for each class of target, a column for each type of ship, both in the order of
-/// `ringTypes`.
-using RangeTable = std::array<std::array<std::int32_t, 6>, 6>;
+/// `shipTypes`.
+using RangeTable = std::array<std::array<std::int32_t, shipTypes.size()>, shipTypes.size()>;
 
 // The last cell holds its metres. No ring is drawn from the last row. Kept.
 inline constexpr RangeTable visibilityRangeTable{{

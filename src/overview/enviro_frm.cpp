@@ -11,6 +11,7 @@
 #include "platform/svg_picture.h"
 #include "shell/editor.h"
 #include "shell/main_frm.h"
+#include "store/profile_keys.h"
 #include "ui_enviro_frm.h"
 
 #include <QValidator>
@@ -284,7 +285,7 @@ void EnviroFrm::show(const EnvironmentValues& values)
 void EnviroFrm::writeEnvironmentKeys()
 {
     for (const auto& [key, value] : encodeEnvironment(values(), m_editor.language())) {
-        m_editor.workingProfile().write(u"SCENARIODATA", key, value);
+        m_editor.workingProfile().write(scenarioDataSection, key, value);
     }
 }
 
@@ -292,7 +293,7 @@ void EnviroFrm::loadExisting()
 {
     EnvironmentValues loaded = values();
     for (const LoadedKey& key : environmentKeys()) {
-        const QString stored = m_editor.workingProfile().GetIniKey(u"SCENARIODATA", key.name);
+        const QString stored = m_editor.workingProfile().GetIniKey(scenarioDataSection, key.name);
         applyEnvironmentKey(key.name, stored, loaded, m_editor.language());
     }
     show(loaded);
@@ -333,8 +334,7 @@ void EnviroFrm::cancel()
 
 void EnviroFrm::leave()
 {
-    m_editor.overviewFrm().setInputEnabled(true);
-    hideForm();
+    leaveTo(m_editor.overviewFrm());
 }
 
 } // namespace torvane

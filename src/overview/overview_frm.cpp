@@ -13,6 +13,7 @@
 #include "shell/editor.h"
 #include "shell/main_frm.h"
 #include "shell/main_menu.h"
+#include "store/profile_keys.h"
 #include "ui_overview_frm.h"
 
 #include <QAction>
@@ -215,7 +216,7 @@ void OverviewFrm::WriteINI()
 {
     const ScenarioValues shown{.overview = values(), .environment = m_editor.enviroFrm().values()};
     for (const auto& [key, value] : encodeScenario(shown, m_editor.language())) {
-        m_editor.workingProfile().write(u"SCENARIODATA", key, value);
+        m_editor.workingProfile().write(scenarioDataSection, key, value);
     }
 }
 
@@ -223,7 +224,7 @@ void OverviewFrm::loadExisting()
 {
     ScenarioValues loaded{.overview = values(), .environment = m_editor.enviroFrm().values()};
     for (const LoadedKey& key : overviewKeys()) {
-        const QString stored = m_editor.workingProfile().GetIniKey(u"SCENARIODATA", key.name);
+        const QString stored = m_editor.workingProfile().GetIniKey(scenarioDataSection, key.name);
         applyOverviewKey(key.name, stored, loaded, m_editor.language());
     }
     show(loaded.overview);
@@ -252,7 +253,7 @@ void OverviewFrm::onActivate()
         loadExisting();
     }
     const bool swapped =
-        rolesSwapped(m_editor.workingProfile().GetIniKey(u"SCENARIODATA", u"BLUE_FORCE_TYPE"));
+        rolesSwapped(m_editor.workingProfile().GetIniKey(scenarioDataSection, u"BLUE_FORCE_TYPE"));
     setForces(swapped);
     showMission(swapped);
 }
@@ -289,8 +290,7 @@ void OverviewFrm::showBrief(const Mission& chosen, bool swapped)
 void OverviewFrm::openEnvironment()
 {
     m_returning = true;
-    m_editor.enviroFrm().showForm(this);
-    setInputEnabled(false);
+    m_editor.enviroFrm().openOver(*this);
 }
 
 void OverviewFrm::save()
@@ -321,8 +321,7 @@ void OverviewFrm::leave()
 {
     // Left ahead of its own activation it would take the next opening, also that of New, for a return.
     m_returning = false;
-    m_editor.mainFrm().setInputEnabled(true);
-    hideForm();
+    leaveTo(m_editor.mainFrm());
 }
 
 } // namespace torvane

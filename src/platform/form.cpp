@@ -47,6 +47,18 @@ void Form::showForm(Form* opener)
     activateWindow();
 }
 
+void Form::openOver(Form& opener)
+{
+    showForm(&opener);
+    opener.setInputEnabled(false);
+}
+
+void Form::leaveTo(Form& opener)
+{
+    opener.setInputEnabled(true);
+    hideForm();
+}
+
 void Form::hideForm()
 {
     hide();

@@ -32,6 +32,11 @@ public:
     void showForm(Form* opener = nullptr);
     void hideForm();
 
+    /// Shows a dialog over the window that opens it, which then takes no input.
+    void openOver(Form& opener);
+    /// Gives the input back to the window that opened the dialog, and hides the dialog.
+    void leaveTo(Form& opener);
+
     void setInputEnabled(bool enabled) { m_inputEnabled = enabled; }
     bool isInputEnabled() const { return m_inputEnabled; }
 

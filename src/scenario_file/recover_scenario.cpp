@@ -8,6 +8,7 @@
 #include "scenario_file/load_scenario.h"
 #include "scenario_file/save_scenario.h"
 #include "scenario_file/scenario_format.h"
+#include "store/profile_keys.h"
 #include "store/target_area.h"
 #include "store/working_profile.h"
 
@@ -130,8 +131,8 @@ std::optional<QString> recoverScenario(const QString& profilePath, const QString
     if (!holdsScenario(profile)) {
         return std::nullopt;
     }
-    if (!isThere(profile, scenarioInfoSection, u"DIVISIONCNT")) {
-        profile.setValue(toCodePage(scenarioInfoSection), "DIVISIONCNT",
+    if (!isThere(profile, scenarioInfoSection, divisionCountKey)) {
+        profile.setValue(toCodePage(scenarioInfoSection), toCodePage(divisionCountKey),
                          QByteArray::number(divisionsIn(profile)));
     }
     const QByteArray bytes = scenarioBytes(profile, targetAreaOf(profile), shownForceA(profile, language));

@@ -6,6 +6,7 @@
 #include "platform/runtime_error.h"
 #include "platform/text_files.h"
 #include "scenario_file/scenario_format.h"
+#include "store/profile_keys.h"
 #include "store/units.h"
 #include "store/working_profile.h"
 

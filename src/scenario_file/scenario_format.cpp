@@ -1,6 +1,7 @@
 #include "scenario_file/scenario_format.h"
 
 #include "platform/number_text.h"
+#include "store/profile_keys.h"
 #include "store/units.h"
 
 #include <algorithm>
@@ -56,7 +57,7 @@ constexpr std::array<FileKey, fileKeyCount> allKeys()
     };
     add(FileSection::Version, std::array<QStringView, 1>{u"VERSIONNUMBER"});
     add(FileSection::ScenarioData, scenarioDataKeys);
-    add(FileSection::ScenarioInfo, std::array<QStringView, 1>{u"DIVISIONCNT"});
+    add(FileSection::ScenarioInfo, std::array<QStringView, 1>{divisionCountKey});
     add(FileSection::Division, divisionKeys);
     add(FileSection::Ship, shipKeys);
     add(FileSection::Ship, std::array<QStringView, 2>{u"YARDSXPOSITION", u"YARDSZPOSITION"});

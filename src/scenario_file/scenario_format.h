@@ -53,10 +53,6 @@ extern const std::array<FileKey, fileKeyCount> fileKeys;
 /// The keys of one kind of section.
 std::span<const FileKey> keysOf(FileSection section);
 
-inline constexpr QStringView versionSection{u"VERSION"};
-inline constexpr QStringView scenarioDataSection{u"SCENARIODATA"};
-inline constexpr QStringView scenarioInfoSection{u"SCENARIOINFO"};
-
 inline constexpr QLatin1StringView scenarioFileVersion{"64"};
 inline constexpr QLatin1StringView scenarioFileSuffix{".scn"};
 /// What the file boxes filter on.

@@ -1,6 +1,7 @@
 #include "scenario_file/validate_scenario.h"
 
 #include "scenario_file/scenario_format.h"
+#include "store/profile_keys.h"
 #include "store/side.h"
 #include "store/working_profile.h"
 

@@ -63,8 +63,7 @@ void AboutFrm::onCloseBox()
 
 void AboutFrm::close()
 {
-    m_editor.mainFrm().setInputEnabled(true);
-    hideForm();
+    leaveTo(m_editor.mainFrm());
 }
 
 } // namespace torvane

@@ -1,5 +1,7 @@
 #include "shell/commands.h"
 
+#include "store/force_sizes.h"
+
 #include <algorithm>
 #include <array>
 #include <iterator>

@@ -48,7 +48,6 @@ struct RepositionRow
     const char* entry;
     const char* repositionKey;
 };
-inline constexpr int divisionsPerSide = 6;
 const RepositionRow& repositionRow(bool forceA, int number);
 
 /// Ship entries of a division: ten, but nine in the sixth.

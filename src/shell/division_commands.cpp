@@ -21,8 +21,7 @@ void openDivisionDialog(Editor& editor, const DivisionCommandRow& command)
     }
     // Its activation lets it take input: nobody can leave it before it knows its job.
     dialog.setInputEnabled(false);
-    dialog.showForm(&editor.mainFrm());
-    editor.mainFrm().setInputEnabled(false);
+    dialog.openOver(editor.mainFrm());
 }
 
 } // namespace torvane

@@ -5,6 +5,7 @@
 #include "shell/main_frm.h"
 #include "shell/main_menu.h"
 #include "ship_state/ship_data_frm.h"
+#include "store/force_sizes.h"
 
 #include <QAction>
 
@@ -28,8 +29,7 @@ void editShip(Editor& editor, const QString& entry)
     ShipDataFrm& dialog = editor.shipDataFrm();
     MainFrm& mainFrm = editor.mainFrm();
     dialog.lblShipName->setText(mainFrm.menu().action(entry)->text());
-    dialog.showForm(&mainFrm);
-    mainFrm.setInputEnabled(false);
+    dialog.openOver(mainFrm);
 }
 
 } // namespace torvane

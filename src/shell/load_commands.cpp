@@ -66,8 +66,7 @@ void showLoaded(Editor& editor)
     setPointer(Pointer::Default);
     mainFrm.progress().hide();
     // The dialogs' marks of a new scenario stay as they are, so that what is read is what was loaded.
-    editor.overviewFrm().showForm(&mainFrm);
-    mainFrm.setInputEnabled(false);
+    editor.overviewFrm().openOver(mainFrm);
 }
 
 /// Back to the main window after a failure, wherever it was.

@@ -2,6 +2,7 @@
 
 #include "shell/commands.h"
 #include "shell/main_menu.h"
+#include "store/force_sizes.h"
 
 namespace torvane {
 

@@ -21,6 +21,7 @@
 #include "shell/new_scenario.h"
 #include "shell/save_commands.h"
 #include "shell/splash_frm.h"
+#include "store/force_sizes.h"
 #include "store/working_tables.h"
 
 #include <QAbstractButton>
@@ -268,14 +269,12 @@ void MainFrm::toggleHelpTags()
 
 void MainFrm::showOverview()
 {
-    m_editor.overviewFrm().showForm(this);
-    setInputEnabled(false);
+    m_editor.overviewFrm().openOver(*this);
 }
 
 void MainFrm::showAbout()
 {
-    m_editor.aboutFrm().showForm(this);
-    setInputEnabled(false);
+    m_editor.aboutFrm().openOver(*this);
 }
 
 void MainFrm::onCloseBox()

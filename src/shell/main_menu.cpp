@@ -3,6 +3,7 @@
 #include "platform/runtime_error.h"
 #include "shell/captions.h"
 #include "shell/commands.h"
+#include "store/force_sizes.h"
 #include "store/side.h"
 
 #include <QAction>

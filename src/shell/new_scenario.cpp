@@ -63,8 +63,7 @@ void newScenario(Editor& editor)
     setValue(editor.overviewFrm().ChknewFlag, 1);
     setValue(editor.createDivisionFrm().ChknewBlueFlag, 1);
     setValue(editor.createDivisionFrm().ChknewRedFlag, 1);
-    editor.overviewFrm().showForm(&mainFrm);
-    mainFrm.setInputEnabled(false);
+    editor.overviewFrm().openOver(mainFrm);
 }
 
 } // namespace torvane

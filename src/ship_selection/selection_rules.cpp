@@ -5,6 +5,7 @@
 #include "platform/runtime_error.h"
 #include "platform/text_files.h"
 #include "ship_selection/ship_line.h"
+#include "store/force_sizes.h"
 
 #include <algorithm>
 
@@ -36,7 +37,7 @@ void ShipSelection::open(Side side, const QString& caption, const QString& word)
     m_side = side;
     m_number = divisionNumberOf(caption);
     QStringList lines;
-    for (int number = 1; number <= divisionFiles; ++number) {
+    for (int number = 1; number <= divisionsPerSide; ++number) {
         const QString file = m_files.divisionFile(side, number);
         if (caption == word + u' ' + QString::number(number) && isThere(file)) {
             lines = m_files.read(file);
@@ -61,7 +62,7 @@ void ShipSelection::countForces()
 std::int16_t ShipSelection::shipsOf(Side side) const
 {
     std::int16_t ships = 0;
-    for (int number = 1; number <= divisionFiles; ++number) {
+    for (int number = 1; number <= divisionsPerSide; ++number) {
         const QString file = m_files.divisionFile(side, number);
         if (isThere(file)) {
             ships = toInt16(static_cast<double>(ships + m_files.read(file).size()));

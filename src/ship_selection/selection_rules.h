@@ -34,11 +34,7 @@ int divisionNumberOf(QStringView caption);
 class ShipSelection
 {
 public:
-    static constexpr int shipsPerDivision = 10;
-    static constexpr int shipsPerForce = 28;
-    static constexpr int shipsPerScenario = 32;
     static constexpr int pickedNamePlaces = 31;
-    static constexpr int divisionFiles = 6;
 
     /// Everything handed in outlives the object.
     ShipSelection(const ScratchFiles& files, const WorkingProfile& profile, ShipRecords& records,

@@ -7,6 +7,7 @@
 #include "shell/editor.h"
 #include "shell/main_frm.h"
 #include "ship_selection/ship_grid.h"
+#include "store/force_sizes.h"
 #include "ui_ship_dbase_frm.h"
 
 #include <QKeyEvent>
@@ -309,8 +310,7 @@ void ShipDBaseFrm::keep()
 
 void ShipDBaseFrm::leave()
 {
-    m_editor.createDivisionFrm().setInputEnabled(true);
-    hideForm();
+    leaveTo(m_editor.createDivisionFrm());
     m_ui->Grid1->hide();
     m_ui->LstDivision->hide();
 }
@@ -330,12 +330,11 @@ void ShipDBaseFrm::showSelection()
     m_ui->LstDivision->setCurrentRow(m_selection.selectedIndex());
     m_model->showMarks();
     const bool isForceA = m_selection.side() == Side::Blue;
-    showCount(m_ui->lblDivCount, ShipText::DivisionCount, m_selection.divShipCount(),
-              ShipSelection::shipsPerDivision);
+    showCount(m_ui->lblDivCount, ShipText::DivisionCount, m_selection.divShipCount(), shipsPerDivision);
     showCount(m_ui->lblForceCount, isForceA ? ShipText::ForceACount : ShipText::ForceBCount,
-              m_selection.forceShipCount(), ShipSelection::shipsPerForce);
+              m_selection.forceShipCount(), shipsPerForce);
     showCount(m_ui->lblScenarioCount, ShipText::ScenarioCount,
-              m_selection.blueShipCount() + m_selection.redShipCount(), ShipSelection::shipsPerScenario);
+              m_selection.blueShipCount() + m_selection.redShipCount(), shipsPerScenario);
 }
 
 // A limit that is reached stands out.

@@ -235,8 +235,7 @@ void ShipDataFrm::cancel()
 
 void ShipDataFrm::leave()
 {
-    m_editor.mainFrm().setInputEnabled(true);
-    hideForm();
+    leaveTo(m_editor.mainFrm());
 }
 
 } // namespace torvane

@@ -1,20 +1,19 @@
 #include "ship_state/ship_sections.h"
 
+#include "store/force_sizes.h"
+#include "store/ship_catalogue.h"
+
 #include <functional>
 
 namespace torvane {
 
 namespace {
 
-constexpr QLatin1StringView duncan{"Duncan"};
-/// Places of a division that are looked at; a division has at most as many ships.
-constexpr int ships = 10;
-
 QString firstSection(const WorkingProfile& profile,
                      const std::function<bool(const QString& section)>& isWanted)
 {
     for (int division = 0; division < divisionSections; ++division) {
-        for (int ship = 0; ship < ships; ++ship) {
+        for (int ship = 0; ship < shipsPerDivision; ++ship) {
             const QString section = shipSection(division, ship);
             if (isShip(profile.GetIniKey(section, u"NAME")) && isWanted(section)) {
                 return section;
@@ -41,10 +40,10 @@ QString sectionToShow(const WorkingProfile& profile, const QString& shortName)
 QString findShipSection(const WorkingProfile& profile, const QString& shortName, const QString& shipClass)
 {
     const QString shown = shortName.trimmed();
-    const QString name = isNamedDuncan(shown) ? QString(duncan) : shown;
+    const QString name = isNamedDuncan(shown) ? QString(ambiguousShortName) : shown;
     return firstSection(profile, [&](const QString& section) {
         return profile.GetIniKey(section, u"SHORTNAME") == name &&
-               (name != duncan || profile.GetIniKey(section, u"CLASS") == shipClass.trimmed());
+               (name != ambiguousShortName || profile.GetIniKey(section, u"CLASS") == shipClass.trimmed());
     });
 }
 

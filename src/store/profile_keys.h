@@ -13,6 +13,12 @@ constexpr bool isSameKey(QStringView one, QStringView other)
     return std::equal(one.utf16(), one.utf16() + one.size(), other.utf16(), other.utf16() + other.size());
 }
 
+inline constexpr QStringView versionSection{u"VERSION"};
+inline constexpr QStringView scenarioDataSection{u"SCENARIODATA"};
+inline constexpr QStringView scenarioInfoSection{u"SCENARIOINFO"};
+/// The one key of [SCENARIOINFO].
+inline constexpr QStringView divisionCountKey{u"DIVISIONCNT"};
+
 /// The keys of [SCENARIODATA] in the order of the scenario file. The two dimension keys are spelled
 /// differently.
 inline constexpr std::array<QStringView, 50> scenarioDataKeys{u"TITLE",

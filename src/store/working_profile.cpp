@@ -13,12 +13,8 @@ namespace torvane {
 
 namespace {
 
-constexpr QStringView versionSection{u"VERSION"};
 constexpr QStringView versionKey{u"VERSIONNUMBER "};
 constexpr QStringView version{u"64"};
-constexpr QStringView scenarioDataSection{u"SCENARIODATA"};
-constexpr QStringView scenarioInfoSection{u"SCENARIOINFO"};
-constexpr QStringView divisionCountKey{u"DIVISIONCNT"};
 constexpr QStringView zero{u"0"};
 /// `zeroProfile` stops here; the other walks go on to `shipSections`. Kept.
 constexpr int zeroedShipSections = 10;
@@ -80,7 +76,7 @@ QString shipSection(const QString& divisionSection, int ship)
 
 QString storedDivisionName(const QString& number)
 {
-    return QStringLiteral("Division ") + number;
+    return storedDivisionWord + number;
 }
 
 QString GetIniKey(ProfileStore& store, const QString& file, QStringView section, QStringView key)

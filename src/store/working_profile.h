@@ -25,8 +25,9 @@ QString divisionSection(int division);
 QString shipSection(int division, int ship);
 /// The same by the section of the division.
 QString shipSection(const QString& divisionSection, int ship);
-/// What a division is called in the working profile, in every language: "Division " and its number within its
+/// What a division is called in the working profile, in every language: this word and its number within its
 /// side.
+inline constexpr QLatin1StringView storedDivisionWord{"Division "};
 QString storedDivisionName(const QString& number);
 
 /// One key of any profile file, trimmed of blanks at both ends, or "INVALID" if it is missing or empty.

@@ -3,6 +3,7 @@
 #include "shell/editor.h"
 #include "shell/main_frm.h"
 #include "shell/main_menu.h"
+#include "store/force_sizes.h"
 #include "store/profile_keys.h"
 
 #include <QAction>

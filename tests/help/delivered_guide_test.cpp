@@ -17,6 +17,7 @@
 #include "shell/help_texts.h"
 #include "ship_selection/selection_rules.h"
 #include "ship_selection/ship_texts.h"
+#include "store/force_sizes.h"
 #include "support/printers.h"
 
 #include <QRegularExpression>
@@ -328,10 +329,9 @@ TEST(DeliveredGuide, TellsHowManyOfEachAScenarioHolds)
              tableRows(QStringLiteral("limits"), QStringLiteral("numbers"), language)) {
             most.append(row.value(2));
         }
-        EXPECT_EQ(most, (QStringList{QString::number(DivisionRecords::divisionsPerSide),
-                                     QString::number(ShipSelection::shipsPerDivision),
-                                     QString::number(ShipSelection::shipsPerForce),
-                                     QString::number(ShipSelection::shipsPerScenario), "1", "30", "369"}));
+        EXPECT_EQ(most, (QStringList{QString::number(divisionsPerSide), QString::number(shipsPerDivision),
+                                     QString::number(shipsPerForce), QString::number(shipsPerScenario), "1",
+                                     "30", "369"}));
     }
 }
 

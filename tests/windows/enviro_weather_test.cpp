@@ -180,14 +180,6 @@ TEST_F(EnvironmentWeather, AValidDirectionIsRewrittenAsItsInteger)
     EXPECT_TRUE(boxes().isEmpty());
 }
 
-struct StepCase
-{
-    const char* button;
-    const char* box;
-    const char* from;
-    const char* to;
-};
-
 TEST_F(EnvironmentWeather, WindDirectionAndRadarStepAndWrap)
 {
     const StepCase steps[] = {

@@ -1,5 +1,6 @@
 #include "shell/commands.h"
 #include "shell/main_menu.h"
+#include "store/force_sizes.h"
 #include "support/printers.h"
 
 #include <QAction>

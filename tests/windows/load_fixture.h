@@ -5,6 +5,7 @@
 #include "platform/code_page.h"
 #include "shell/commands.h"
 #include "shell/main_menu.h"
+#include "store/force_sizes.h"
 #include "windows/save_fixture.h"
 
 #include <QAction>

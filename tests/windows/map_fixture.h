@@ -9,6 +9,7 @@
 #include "shell/commands.h"
 #include "shell/main_frm.h"
 #include "shell/main_menu.h"
+#include "store/force_sizes.h"
 #include "store/profile_keys.h"
 #include "support/catalogue_file.h"
 #include "support/editor_fixture.h"

@@ -9,14 +9,6 @@ protected:
     void SetUp() override { openNew(); }
 };
 
-struct StepCase
-{
-    const char* button;
-    const char* box;
-    const char* from;
-    const char* to;
-};
-
 TEST_F(OverviewSteppers, EachStepsByAClickAndWrapsAtItsBounds)
 {
     const StepCase steps[] = {

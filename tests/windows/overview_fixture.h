@@ -17,6 +17,15 @@
 
 namespace torvane::testing {
 
+/// What a click on a button makes of a box.
+struct StepCase
+{
+    const char* button;
+    const char* box;
+    const char* from;
+    const char* to;
+};
+
 /// Runs with the overview and the environment dialog, worked as a user works them.
 class Dialogs : public EditorFixture
 {

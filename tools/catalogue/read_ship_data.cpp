@@ -4,6 +4,7 @@
 #include "catalogue/row_reader.h"
 #include "platform/text_files.h"
 #include "ship_selection/ship_lists.h"
+#include "store/force_sizes.h"
 
 #include <QDir>
 

@@ -12,10 +12,6 @@ namespace torvane {
 /// The catalogue as its authors write it: facts about ships and classes, nothing derived.
 /// Every record carries the line of its file, so that a fault can name it.
 
-inline constexpr std::array<QLatin1StringView, 6> shipTypes{QLatin1StringView{"BB"}, QLatin1StringView{"BC"},
-                                                            QLatin1StringView{"CA"}, QLatin1StringView{"CL"},
-                                                            QLatin1StringView{"DD"}, QLatin1StringView{"TR"}};
-
 enum class Magazine {
     A, ///< forward, and the port side amidships
     B, ///< aft, and the starboard side amidships

@@ -1,6 +1,7 @@
 #include "catalogue/summary.h"
 
 #include "ship_selection/ship_lists.h"
+#include "store/force_sizes.h"
 
 #include <QStringList>
 
