@@ -1,24 +1,32 @@
+set(torvane_test_headers <gmock/gmock.h> <QDir> <QFile> <QStringList> <QTemporaryDir>)
+
+# What is tested is optimised, not the tests: compiling them is most of a build.
+function(torvane_compile_as_test name)
+    target_compile_options(${name} PRIVATE $<$<CONFIG:Release>:-O1>)
+    if(TORVANE_SANITIZE)
+        target_compile_options(${name} PRIVATE -O0)
+    endif()
+endfunction()
+
 # Registers the tests of one program with CTest, one CTest entry a test.
 #   CORE: links torvane_core alone, runs without a display.
 #   PROGRAMS: runs built programs, which CI tries as users get them too; `ctest -L programs` runs these alone.
 #   WINDOWS: links torvane_editor, runs on the offscreen platform; SCALE n makes its screen n times as dense.
 #   TIMEOUT n: seconds that a test may take, 120 where nothing is said.
-# Headers that most tests need are compiled once a program, but not under a compiler cache, which saves more.
+# Headers that most tests need are compiled once, by the windows' tests once a program: the toolkit tells its tests where they
+# lie. Not so under a compiler cache, which saves more.
 function(torvane_add_tests name)
     cmake_parse_arguments(arg "CORE;PROGRAMS;WINDOWS" "SCALE;TIMEOUT" "SOURCES" ${ARGN})
     add_executable(${name} ${arg_SOURCES})
     target_link_libraries(${name} PRIVATE GTest::gmock torvane_warnings)
     target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR}/tests)
-    # What is tested is optimised, not the tests: compiling them is most of a build.
-    target_compile_options(${name} PRIVATE $<$<CONFIG:Release>:-O1>)
-    if(TORVANE_SANITIZE)
-        target_compile_options(${name} PRIVATE -O0)
-    endif()
-    if(NOT CMAKE_CXX_COMPILER_LAUNCHER)
-        target_precompile_headers(${name} PRIVATE
-            <gmock/gmock.h> <QDir> <QFile> <QStringList> <QTemporaryDir>
-            $<$<BOOL:${arg_WINDOWS}>:<QPushButton$<ANGLE-R>>
-            $<$<BOOL:${arg_WINDOWS}>:<QTest$<ANGLE-R>>)
+    torvane_compile_as_test(${name})
+    if(CMAKE_CXX_COMPILER_LAUNCHER)
+        # As above.
+    elseif(arg_WINDOWS)
+        target_precompile_headers(${name} PRIVATE ${torvane_test_headers} <QPushButton> <QTest>)
+    else()
+        target_precompile_headers(${name} REUSE_FROM torvane_test_support)
     endif()
     set(scale "")
     set(prefix "")
