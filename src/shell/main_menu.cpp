@@ -3,13 +3,13 @@
 #include "platform/runtime_error.h"
 #include "shell/captions.h"
 #include "shell/commands.h"
-#include "store/force_sizes.h"
-#include "store/side.h"
 
 #include <QAction>
 #include <QKeySequence>
 #include <QMenu>
 #include <QMenuBar>
+
+#include <span>
 
 namespace torvane {
 
@@ -55,6 +55,7 @@ MainMenu::MainMenu(QMenuBar* bar) : QObject(bar), m_bar(bar)
         }
         m_actions.insert(row.name, entry);
     }
+    findShipMenus();
 }
 
 void MainMenu::setCaptions(Language language)
@@ -66,11 +67,6 @@ void MainMenu::setCaptions(Language language)
             action(row.name)->setText(caption);
         }
     }
-}
-
-static QString shipForceName(bool forceA)
-{
-    return forceA ? QStringLiteral("mnuEditShipForceA") : QStringLiteral("mnuEditShipForceB");
 }
 
 QAction* MainMenu::action(const QString& name) const
@@ -145,36 +141,51 @@ void MainMenu::hideEditShipMenus()
     showEditShips({});
 }
 
+void MainMenu::findShipMenus()
+{
+    for (const bool forceA : sides) {
+        ShipMenus& force = shipMenus(forceA ? Side::Blue : Side::Red);
+        force.menu =
+            action(forceA ? QStringLiteral("mnuEditShipForceA") : QStringLiteral("mnuEditShipForceB"));
+        for (int number = 1; number <= divisionsPerSide; ++number) {
+            ShipMenus::Division& division = force.divisions.at(static_cast<std::size_t>(number - 1));
+            division.menu = action(shipDivisionName(forceA, number));
+            for (int ship = 1; ship <= shipEntries(number); ++ship) {
+                division.ships.push_back(action(shipEntryName(forceA, number, ship)));
+            }
+        }
+    }
+}
+
 void MainMenu::showEditShips(const std::vector<EditShipEntry>& ships)
 {
-    QHash<QString, QString> captions; // of what is shown; the menus of divisions have their own
+    QHash<QAction*, QString> captions; // of what is shown; the menus of divisions have their own
     for (const EditShipEntry& ship : ships) {
-        const bool forceA = ship.side == Side::Blue;
-        captions.insert(shipForceName(forceA), QString());
+        const ShipMenus& force = shipMenus(ship.side);
+        captions.insert(force.menu, QString());
         if (ship.division == 0) {
             continue;
         }
-        captions.insert(shipDivisionName(forceA, ship.division), QString());
+        const ShipMenus::Division& division = force.divisions.at(static_cast<std::size_t>(ship.division - 1));
+        captions.insert(division.menu, QString());
         if (ship.ship <= shipEntries(ship.division)) {
-            captions.insert(shipEntryName(forceA, ship.division, ship.ship), ship.caption);
+            captions.insert(division.ships.at(static_cast<std::size_t>(ship.ship - 1)), ship.caption);
         }
     }
     // What stays shown is not hidden in between, so that an open menu doesn't flicker.
-    for (const bool forceA : sides) {
-        setEnabled(shipForceName(forceA), captions.contains(shipForceName(forceA)));
-        for (int division = 1; division <= hiddenDivisions; ++division) {
-            const QString menu = shipDivisionName(forceA, division);
-            setVisible(menu, captions.contains(menu));
-            for (int ship = 2; ship <= shipEntries(division); ++ship) {
-                const QString entry = shipEntryName(forceA, division, ship);
-                setVisible(entry, captions.contains(entry));
+    for (const ShipMenus& force : m_shipMenus) {
+        force.menu->setEnabled(captions.contains(force.menu));
+        for (const ShipMenus::Division& division : std::span(force.divisions).first<hiddenDivisions>()) {
+            division.menu->setVisible(captions.contains(division.menu));
+            for (QAction* entry : std::span(division.ships).subspan(1)) {
+                entry->setVisible(captions.contains(entry));
             }
         }
     }
     for (auto shown = captions.cbegin(); shown != captions.cend(); ++shown) {
-        setVisible(shown.key(), true);
+        shown.key()->setVisible(true);
         if (!shown.value().isEmpty()) {
-            action(shown.key())->setText(shown.value());
+            shown.key()->setText(shown.value());
         }
     }
 }

@@ -2,11 +2,14 @@
 
 #include "map/map_plotting.h"
 #include "platform/language.h"
+#include "store/force_sizes.h"
+#include "store/side.h"
 
 #include <QHash>
 #include <QObject>
 #include <QString>
 
+#include <array>
 #include <vector>
 
 class QAction;
@@ -54,10 +57,25 @@ public:
     int redDivisionCount() const { return m_redDivisionCount; }
 
 private:
+    /// The menus of a force's ships, found once: each plot goes over all of them.
+    struct ShipMenus
+    {
+        struct Division
+        {
+            QAction* menu = nullptr;
+            std::vector<QAction*> ships; ///< in order
+        };
+        QAction* menu = nullptr;
+        std::array<Division, divisionsPerSide> divisions; ///< by number, from 1
+    };
+
+    void findShipMenus();
+    ShipMenus& shipMenus(Side side) { return m_shipMenus.at(side == Side::Blue ? 0 : 1); }
     void showRepositionEntry(bool forceA, int count);
 
     QMenuBar* m_bar;
     QHash<QString, QAction*> m_actions;
+    std::array<ShipMenus, 2> m_shipMenus;
     QString m_divisionWord;
     int m_blueDivisionCount = 0;
     int m_redDivisionCount = 0;
