@@ -32,10 +32,24 @@ char byteOf(char16_t character)
     return found == specials.end() ? '?' : static_cast<char>(firstSpecial + (found - specials.begin()));
 }
 
+/// Whether all characters are ASCII, as most are: these are in every code page.
+bool isPlain(QByteArrayView bytes)
+{
+    return std::all_of(bytes.begin(), bytes.end(),
+                       [](char byte) { return static_cast<unsigned char>(byte) < firstSpecial; });
+}
+bool isPlain(QStringView text)
+{
+    return std::all_of(text.begin(), text.end(), [](QChar c) { return c < QChar(firstSpecial); });
+}
+
 } // namespace
 
 QString fromCodePage(QByteArrayView bytes)
 {
+    if (isPlain(bytes)) {
+        return QString::fromLatin1(bytes);
+    }
     QString text(bytes.size(), Qt::Uninitialized);
     std::transform(bytes.begin(), bytes.end(), text.begin(),
                    [](char byte) { return QChar(characterOf(byte)); });
@@ -44,6 +58,9 @@ QString fromCodePage(QByteArrayView bytes)
 
 QByteArray toCodePage(QStringView text)
 {
+    if (isPlain(text)) {
+        return text.toLatin1();
+    }
     QByteArray bytes(text.size(), Qt::Uninitialized);
     char* end = bytes.data();
     for (qsizetype i = 0; i < text.size(); ++i) {

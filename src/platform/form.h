@@ -51,14 +51,14 @@ protected:
     virtual void onCloseBox() {}
 
     /// Connects a handler to a signal. The handler takes the signal's arguments or none. The click of a
-    /// button counts only while the window is shown and takes input.
+    /// button counts only while the button is shown and the window takes input.
     template <typename Sender, typename Signal, typename Handler>
     void on(Sender* sender, Signal signal, Handler handler)
     {
         static_assert(Fits<Handler, Signal>::value, "the handler takes the signal's arguments or none");
         const bool isClick = isClickOf(signal);
-        const auto call = [this, isClick, handler = std::move(handler)](const auto&... arguments) {
-            if (!isClick || takesClicks()) {
+        const auto call = [this, sender, isClick, handler = std::move(handler)](const auto&... arguments) {
+            if (!isClick || takesClickOf(sender)) {
                 m_formStack.runHandler([&] { callHandler(handler, arguments...); });
             }
         };
@@ -115,8 +115,15 @@ private:
         }
         return false;
     }
-    // A button that a key presses is clicked a moment later, when its window may have been left.
-    bool takesClicks() const { return m_inputEnabled && isVisible(); }
+    // A button that a key presses is clicked a moment later, when its page or window may have been left.
+    template <typename Sender>
+    bool takesClickOf(const Sender* sender) const
+    {
+        if constexpr (std::is_base_of_v<QWidget, Sender>) {
+            return m_inputEnabled && sender->isVisible();
+        }
+        return m_inputEnabled && isVisible();
+    }
 
     void watch(QObject* object);
     bool isOfBox(const QObject* watched) const;

@@ -11,8 +11,10 @@ static constexpr std::size_t fewestPlaces = 16;
 
 bool sameName(QByteArrayView a, QByteArrayView b)
 {
-    return a.size() == b.size() && std::equal(a.begin(), a.end(), b.begin(),
-                                              [](char x, char y) { return foldedCase(x) == foldedCase(y); });
+    // Mostly they are written alike, which is quickly seen.
+    return a.size() == b.size() && (a == b || std::equal(a.begin(), a.end(), b.begin(), [](char x, char y) {
+                                        return foldedCase(x) == foldedCase(y);
+                                    }));
 }
 
 std::uint32_t nameHash(QByteArrayView name, std::size_t salt)

@@ -125,6 +125,8 @@ struct ProfileStore::Private
     };
 
     QHash<QString, File*> names; ///< every spelling of a path that was used
+    QString lastName;            ///< the one used last, mostly the next one too
+    File* lastFile = nullptr;
     std::vector<std::unique_ptr<File>> files;
     FailureReport report;
     int depth = 0;
@@ -142,8 +144,13 @@ struct ProfileStore::Private
 
 ProfileStore::File& ProfileStore::Private::named(const QString& path)
 {
-    if (File* known = names.value(path)) {
-        return *known;
+    if (lastFile && path == lastName) {
+        return *lastFile;
+    }
+    lastName = path;
+    lastFile = names.value(path);
+    if (lastFile) {
+        return *lastFile;
     }
     const bool isName = !path.isEmpty() && !path.contains(QChar::Null);
     const QString fullPath = isName ? QDir::cleanPath(QFileInfo(path).absoluteFilePath()) : path;
@@ -155,8 +162,9 @@ ProfileStore::File& ProfileStore::Private::named(const QString& path)
         file->systemPath = QFile::encodeName(fullPath);
         found = files.insert(files.end(), std::move(file));
     }
-    names.insert(path, found->get());
-    return **found;
+    lastFile = found->get();
+    names.insert(path, lastFile);
+    return *lastFile;
 }
 
 /// The file as another program may have left it. Within a batch the disk is asked once.

@@ -1,5 +1,6 @@
 #include "store/working_profile.h"
 
+#include "platform/code_page.h"
 #include "platform/number_text.h"
 #include "platform/text_files.h"
 #include "store/profile_keys.h"
@@ -20,14 +21,12 @@ constexpr QStringView zero{u"0"};
 constexpr int zeroedShipSections = 10;
 
 /// Without the blanks at both ends; tabs stay.
-template <typename View>
-View withoutBlanks(View text)
+QByteArrayView withoutBlanks(QByteArrayView text)
 {
-    constexpr typename View::value_type blank{' '};
-    while (!text.isEmpty() && text.front() == blank) {
+    while (!text.isEmpty() && text.front() == ' ') {
         text = text.sliced(1);
     }
-    while (!text.isEmpty() && text.back() == blank) {
+    while (!text.isEmpty() && text.back() == ' ') {
         text.chop(1);
     }
     return text;
@@ -81,8 +80,7 @@ QString storedDivisionName(const QString& number)
 
 QString GetIniKey(ProfileStore& store, const QString& file, QStringView section, QStringView key)
 {
-    const QString text = store.read(file, section, key);
-    return text.isEmpty() ? QString(invalidValue) : withoutBlanks(QStringView(text)).toString();
+    return fromCodePage(GetIniKey(store.parsed(file), toCodePage(section), toCodePage(key)));
 }
 
 QByteArrayView GetIniKey(const Profile& profile, QByteArrayView section, QByteArrayView key)

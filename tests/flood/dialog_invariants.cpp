@@ -122,7 +122,8 @@ bool isInProfile(const WorkingProfile& profile, const QString& shipName)
 {
     for (int n = 0; n < divisionSections; ++n) {
         for (int m = 0; m < shipSections; ++m) {
-            if (profile.GetIniKey(shipSection(n, m), u"NAME") == shipName) {
+            const QString name = profile.GetIniKey(shipSection(n, m), u"NAME");
+            if (isShip(name) && name == shipName) {
                 return true;
             }
         }

@@ -41,6 +41,22 @@ TEST_F(ShipDataKeys, EveryLabelLeadsToItsControlAndPressesNothing)
     }
 }
 
+TEST_F(ShipDataKeys, ARepairRowThatAKeyPressesOnAPageThatIsLeftAtOnceStaysShut)
+{
+    constexpr int longerThanAClick = 300; // milliseconds
+    openExeter();
+    turnTo(systemsPage);
+    pressMnemonic(dialog(), button("cmdRepairElec")->text());
+    turnTo(generalPage);
+    QTest::qWait(longerThanAClick);
+    EXPECT_TRUE(tabs()->isEnabled());
+    EXPECT_TRUE(button("CmdCancel")->isEnabled()) << "the OK of an open row would lie on the page behind";
+    turnTo(systemsPage);
+    pressMnemonic(dialog(), button("cmdRepairElec")->text());
+    QTest::qWait(longerThanAClick);
+    EXPECT_FALSE(button("CmdCancel")->isEnabled()) << "the page is in sight: the row is open";
+}
+
 TEST_F(ShipDataKeys, AHeldMinuteButtonRepeatsUntilItIsLetGo)
 {
     openRepair();
