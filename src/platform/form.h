@@ -51,7 +51,7 @@ protected:
     virtual void onCloseBox() {}
 
     /// Connects a handler to a signal. The handler takes the signal's arguments or none. The click of a
-    /// button counts only while the button is shown and the window takes input.
+    /// button counts only while its page is shown and the window takes input.
     template <typename Sender, typename Signal, typename Handler>
     void on(Sender* sender, Signal signal, Handler handler)
     {
@@ -115,14 +115,16 @@ private:
         }
         return false;
     }
-    // A button that a key presses is clicked a moment later, when its page or window may have been left.
+    // A button that a key presses is clicked a moment later, when its page or window may have been left. One
+    // that is hidden by itself is pressed by nobody but the program.
     template <typename Sender>
     bool takesClickOf(const Sender* sender) const
     {
+        bool isInSight = isVisible();
         if constexpr (std::is_base_of_v<QWidget, Sender>) {
-            return m_inputEnabled && sender->isVisible();
+            isInSight = isInSight && (sender->isVisible() || sender->isHidden());
         }
-        return m_inputEnabled && isVisible();
+        return m_inputEnabled && isInSight;
     }
 
     void watch(QObject* object);
