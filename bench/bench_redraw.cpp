@@ -236,7 +236,6 @@ void redrawShips(benchmark::State& state)
     redraw(state, run);
 }
 
-/// Resident memory of this process in bytes.
 /// What 1,000 redraws leave, after the first hundred have filled what is kept.
 void thousandRedraws(benchmark::State& state)
 {

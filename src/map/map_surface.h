@@ -16,8 +16,9 @@ namespace torvane {
 class ToolRow;
 
 /// The tactical map's own picture: takes the mouse and the keys, and shows when it has the focus. Keys do
-/// what the mouse does: an arrow with Ctrl moves the pointer by a pixel, with Shift too by ten, and Space and
-/// Enter click. A pointer that a key has moved is drawn on the map until the mouse moves.
+/// what the mouse does: an arrow with Ctrl moves the pointer by a pixel, with Shift too by ten, Space and
+/// Enter click, and Backspace clicks with the right button. A pointer that a key has moved is drawn on the
+/// map until the mouse moves.
 class MapBox : public PictureBox
 {
     Q_OBJECT

@@ -1,4 +1,3 @@
-#include "divisions/division_records.h"
 #include "divisions/division_texts.h"
 #include "divisions/speed_limits.h"
 #include "guide/check_guide.h"
@@ -15,7 +14,6 @@
 #include "shell/commands.h"
 #include "shell/help_book.h"
 #include "shell/help_texts.h"
-#include "ship_selection/selection_rules.h"
 #include "ship_selection/ship_texts.h"
 #include "store/force_sizes.h"
 #include "support/printers.h"
